@@ -6,7 +6,8 @@
 
 /// A place or a size written from the width w and the height h of an area, such as 12, w/2+60 or h-20; `*` is any.
 ///
-/// Whole numbers, + and - between terms, * and / inside a term, evaluated from the left; a division drops its remainder.
+/// Whole numbers, + and - between terms, * and / inside a term, evaluated from the left; a division drops its
+/// remainder.
 class Measure
 {
 public:

@@ -65,7 +65,7 @@ public:
     /// The chain and the computed closing link as the step `print` shows them, one line each, without line ends.
     virtual std::vector<std::string> ChainLines() const = 0;
 
-    /// The play is over, with the exit code that the process is to end with. Called once, from a timer: dialogs, message
-    /// boxes or menus may still be open, so ending the process there and then is the safe answer.
+    /// The play is over, with the exit code that the process is to end with. Called once, from a timer: dialogs,
+    /// message boxes or menus may still be open, so ending the process there and then is the safe answer.
     virtual void OnPlayEnded(int exitCode) = 0;
 };

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/player/measure.h"
+#include "host/player/record_field.h"
 
 /// A window of the process as a script names it.
 enum class WindowRole
@@ -54,7 +55,7 @@ struct GridCell
 /// A named value of a record, such as upper="0.2".
 struct FieldValue
 {
-    std::string field;
+    RecordField field;
     ScriptText value;
 };
 
@@ -69,14 +70,15 @@ struct Step
     ControlPath control;
     std::optional<GridCell> cell;
     std::optional<ScriptText> text;
-    std::optional<std::int64_t> number;  ///< N, ID, CODE or GRID
-    std::optional<std::int64_t> second;  ///< DATA, WIDTH, VALUE, ROW, TOLERANCE, or the ID after GRID
-    std::optional<std::uint32_t> colour; ///< 0xRRGGBB
-    std::vector<Measure> measures;       ///< X Y or X Y W H; a measure of `*` is any
+    std::optional<std::int64_t> number;   ///< N, ID, CODE or GRID
+    std::optional<std::int64_t> second;   ///< DATA, WIDTH, VALUE, ROW, TOLERANCE, or the ID after GRID
+    std::optional<std::uint32_t> colour;  ///< 0xRRGGBB
+    std::vector<Measure> measures;        ///< X Y or X Y W H; a measure of `*` is any
     std::vector<int> codes;
-    std::vector<std::string> words;      ///< names: dimension, key, operation, field of a record, file, colour word
-    std::vector<std::string> choices;    ///< the words taken where the pattern offers a choice
-    std::vector<FieldValue> fields;
+    std::vector<std::string> words;    ///< names: dimension, key, operation, file
+    std::vector<std::string> choices;  ///< the words taken where the pattern offers a choice
+    std::optional<RecordField> field;  ///< the field of a record that is looked at
+    std::vector<FieldValue> fields;    ///< the fields of a record that are given
 
     /// Whether the line has this word in a place where the pattern offers a choice.
     bool Chose(std::string_view word) const;
