@@ -1,0 +1,17 @@
+#include "drawing/whole_pixels.h"
+
+#include <cmath>
+
+namespace
+{
+
+constexpr double kFarthestCoordinate = 134217728.0;
+
+}  // namespace
+
+std::optional<int> WholePixels(double distance)
+{
+    if (!(std::abs(distance) <= kFarthestCoordinate))  // also not when it is NaN
+        return std::nullopt;
+    return static_cast<int>(distance);
+}
