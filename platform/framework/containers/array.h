@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <iterator>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -122,16 +123,24 @@ private:
     // The element is copied before anything moves: it may lie in this array.
     void InsertCopies(INT_PTR index, ARG_TYPE element, INT_PTR count)
     {
-        InsertElements(index, std::vector<TYPE>(Position(count), TYPE(element)));
+        const TYPE copied(element);
+        OpenGap(index, count);
+        m_elements.insert(m_elements.begin() + index, Position(count), copied);
     }
 
     void InsertElements(INT_PTR index, std::vector<TYPE>&& added)
     {
-        const INT_PTR gap = std::max<INT_PTR>(index - GetSize(), 0);
-        MakeRoom(gap + static_cast<INT_PTR>(added.size()));
-        m_elements.resize(m_elements.size() + Position(gap));
+        OpenGap(index, static_cast<INT_PTR>(added.size()));
         m_elements.insert(m_elements.begin() + index, std::make_move_iterator(added.begin()),
                           std::make_move_iterator(added.end()));
+    }
+
+    // Room for all that comes, and elements up to `index` when that lies behind the end.
+    void OpenGap(INT_PTR index, INT_PTR added)
+    {
+        const INT_PTR gap = std::max<INT_PTR>(index - GetSize(), 0);
+        MakeRoom(gap + added);
+        m_elements.resize(m_elements.size() + Position(gap));
     }
 
     std::vector<TYPE> m_elements;
