@@ -1,7 +1,5 @@
 #include "base/exceptions.h"
 
-#include <iterator>
-
 #include "base/messages.h"
 #include "base/resource_lookup.h"
 
@@ -63,9 +61,7 @@ int CException::ReportError(UINT type, UINT messageId)
         if (messageId == 0 || AfxLoadString(messageId, message, kMessageCapacity) == 0)
             LoadOwnMessage(AFX_IDS_NO_MESSAGE, message, kMessageCapacity);
     }
-    wchar_t program[MAX_PATH] = {};
-    ::GetModuleFileNameW(nullptr, program, MAX_PATH - 1);
-    return ::MessageBoxW(::GetActiveWindow(), message, program, type);
+    return ::MessageBoxW(::GetActiveWindow(), message, nullptr, type);  // without a title Windows writes "Error"
 }
 
 CSimpleException::CSimpleException(BOOL autoDelete, UINT messageId) : CException(autoDelete), m_messageId(messageId) {}
