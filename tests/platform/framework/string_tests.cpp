@@ -208,6 +208,8 @@ TEST(CString, FindsNothingWhenTheStartLiesOutside)
     EXPECT_EQ(text.Find(L"a", -1), -1);
     EXPECT_EQ(text.Find(L"a", 99), -1);
     EXPECT_EQ(CString().Find(L'a'), -1);
+    EXPECT_EQ(text.Find(L"", 0), 0);
+    EXPECT_EQ(text.Find(L"", 3), -1);
 }
 
 TEST(CString, FindsTheLastUnit)
