@@ -127,6 +127,7 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg BOOL OnMouseWheel(UINT flags, short distance, CPoint screenPoint);
     // keyboard
     afx_msg LRESULT OnGetDlgCode(WPARAM key, LPARAM message);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
@@ -171,17 +172,21 @@ private:
     void RedrawRow(const CFListRow& row);
     void RedrawRow(RowKey key);
     // cells
+    static CString CellText(const CFListRow* row, int column);  // empty for no row or column
     CellTraits TraitsOf(const CFListRow& row, int column) const;
     CRect EditorRect(const CFListRow& row, int column) const;
     CRect ColumnSpan(int column) const;
+    CRect ShownCellRect(int index, int column) const;
     void PaintCell(CDC& dc, const CRect& cell, const CFListRow& row, int column);
+    void PaintText(CDC& dc, const CString& text, CRect area, COLORREF colour, UINT format, bool bold);
     // focus
-    bool IsFocusCell(const CFListRow& row, int column) const;
+    void TakeFocus();
     void TellFocusMoved();
     void OpenEditorAtOnce();
     // keyboard
     void Navigate(UINT key);
     void MoveFocus(GridMove move);
+    void LeaveGrid(bool backwards);
     void ToggleFocusCell();
     // mouse
     enum class ClickResult
@@ -197,8 +202,10 @@ private:
     bool OpenEdit(RowKey key, int column, std::optional<TCHAR> typed);
     bool OpenList(RowKey key, int column);
     bool OpenButton(RowKey key, int column);
-    bool TakeEditor(CWnd* editor, RowKey key, int column);
-    void EndEditor(const NMFLISTCTRL& report, UINT code);
+    bool CanStillEdit(RowKey key, int column) const;
+    bool BeginEditing(CWnd& editor, RowKey key, int column);
+    void ForgetEditor(RowKey key, int column);
+    void EndEditing(const NMFLISTCTRL& report, UINT code);
     // notifications
     LRESULT Notify(UINT code, const CFListRow* row, int column, LPCTSTR text, std::int32_t extra = 0);
     void FillRecord(NMFLISTCTRL& record, UINT code, const CFListRow* row, int column, LPCTSTR text) const;

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "grid/grid_notifications.h"
+
+#include <afxwin.h>
+
+#include <cstdint>
+
+/// What every in-place editor keeps: the cell it stands on, and the key that ended it.
+struct EditedCell
+{
+    RowKey rowKey = nullptr;
+    std::int32_t column = -1;
+    UINT endingKey = 0;  // 0: the editor lost the focus otherwise
+};
+
+/// Ends an editor by a key: stores it and gives the focus to the grid, so that the focus loss closes the editor. The
+/// editor may be gone on return.
+void EndByKey(CWnd& editor, EditedCell& cell, UINT key);
+
+/// Tells the grid, the editor's parent, that the editor closes. The editor may be gone on return.
+/// @param code  kGridEditClosed, kGridListClosed or kGridButtonClosed
+void ReportEnd(CWnd& editor, const EditedCell& cell, UINT code, std::int32_t extra);
+
+/// Widens the editor when its text has outgrown it, up to the right edge of the grid.
+void GrowToText(CWnd& editor);

@@ -1,0 +1,87 @@
+#include "grid/f_list_ctrl.h"
+
+namespace
+{
+constexpr COLORREF kFocusBack = RGB(240, 220, 40);
+}  // namespace
+
+BEGIN_MESSAGE_MAP(CFListCtrl, CListCtrlWithCustomDraw)
+    // window
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    ON_WM_MOUSEWHEEL()
+    // keyboard
+    ON_MESSAGE(WM_GETDLGCODE, &CFListCtrl::OnGetDlgCode)
+    ON_WM_KEYDOWN()
+    ON_WM_CHAR()
+    // mouse
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_RBUTTONDOWN()
+    // editors
+    ON_NOTIFY_REFLECT(kGridEditClosed, &CFListCtrl::OnEditClosed)
+    ON_NOTIFY_REFLECT(kGridListClosed, &CFListCtrl::OnListClosed)
+    ON_NOTIFY_REFLECT(kGridButtonClosed, &CFListCtrl::OnButtonClosed)
+END_MESSAGE_MAP()
+
+CFListCtrl::CFListCtrl() : m_focusBack(kFocusBack), m_focusText(::GetSysColor(COLOR_WINDOWTEXT)) {}
+
+CFListCtrl::~CFListCtrl()
+{
+    for (POSITION position = m_topRows.GetHeadPosition(); position != nullptr;)
+        delete m_topRows.GetNext(position);
+    for (int column = 0; column < ColumnCount(); ++column)
+        delete m_columns[column];
+}
+
+// A control of a template exists already when the grid is attached to it, so it never sees WM_CREATE here.
+void CFListCtrl::PreSubclassWindow()
+{
+    CListCtrlWithCustomDraw::PreSubclassWindow();
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT);
+}
+
+int CFListCtrl::OnCreate(LPCREATESTRUCT create)
+{
+    const int result = CListCtrlWithCustomDraw::OnCreate(create);
+    SetExtendedStyle(GetExtendedStyle() | LVS_EX_FULLROWSELECT);
+    return result;
+}
+
+void CFListCtrl::OnDestroy()
+{
+    m_editor = nullptr;  // dies with this window
+    m_focusKey = nullptr;
+    m_focusColumn = -1;
+    while (CFListRow* const row = FirstTopRow())
+        DeleteRow(row->Key());
+    CListCtrlWithCustomDraw::OnDestroy();
+}
+
+// An open editor stands on its cell's place and closes before that place moves.
+void CFListCtrl::OnHScroll(UINT code, UINT position, CScrollBar* bar)
+{
+    TakeFocus();
+    CListCtrlWithCustomDraw::OnHScroll(code, position, bar);
+}
+
+void CFListCtrl::OnVScroll(UINT code, UINT position, CScrollBar* bar)
+{
+    TakeFocus();
+    CListCtrlWithCustomDraw::OnVScroll(code, position, bar);
+}
+
+// Turning the wheel doesn't ask for the focus: only an open editor has to go.
+BOOL CFListCtrl::OnMouseWheel(UINT flags, short distance, CPoint screenPoint)
+{
+    CloseEditor();
+    return CListCtrlWithCustomDraw::OnMouseWheel(flags, distance, screenPoint);
+}
+
+void CFListCtrl::TakeFocus()
+{
+    if (::GetFocus() != m_hWnd)
+        SetFocus();
+}

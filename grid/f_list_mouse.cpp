@@ -1,0 +1,72 @@
+#include "grid/f_list_ctrl.h"
+#include "grid/grid_parent.h"
+
+void CFListCtrl::OnLButtonDown(UINT, CPoint point)
+{
+    Click(point);
+}
+
+void CFListCtrl::OnLButtonDblClk(UINT, CPoint point)
+{
+    const HWND window = m_hWnd;
+    if (Click(point) != ClickResult::Cell || !::IsWindow(window) || HasEditor() || OpenEditor())
+        return;
+    if (CWnd* const parent = GetParent())
+        parent->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), kGridDoubleClick), reinterpret_cast<LPARAM>(m_hWnd));
+}
+
+CFListCtrl::ClickResult CFListCtrl::Click(CPoint point)
+{
+    const std::optional<CellHit> hit = CellAt(point);
+    if (!hit)
+    {
+        if (HasEditor())
+            TakeFocus();  // a click anywhere else ends it
+        return ClickResult::Outside;
+    }
+    const RowKey key = RowAtIndex(hit->index)->Key();
+    TakeFocus();
+    CFListRow* const row = FindRow(key);
+    if (row == nullptr)
+        return ClickResult::Outside;
+
+    const CRect cell = GetCellRect(key, hit->column);
+    const CellPart part =
+        CellPartAt(LayoutCell(cell.left, cell.right, cell.Height(), TraitsOf(*row, hit->column)), point.x);
+    if (part == CellPart::ExpandImage)
+    {
+        if (row->IsExpanded())
+            CollapseRow(key);
+        else
+            ExpandRow(key);
+        return ClickResult::ExpandImage;
+    }
+
+    const bool hadFocus = key == m_focusKey && (m_rowMode || hit->column == m_focusColumn);
+    const bool toggles = part == CellPart::CheckBox && hadFocus;
+    if (toggles)
+        SetCellChecked(key, hit->column, row->Item(hit->column).checked == 0);
+    MakeCellVisible(key, -1, false);
+    SetFocusCell(key, hit->column, true);
+    if (auto* const parent = dynamic_cast<GridSelectionParent*>(GetParent()))
+        parent->OnSelectionChanged(GetDlgCtrlID(), m_focusKey);
+    return toggles ? ClickResult::CheckToggled : ClickResult::Cell;
+}
+
+void CFListCtrl::OnRButtonDown(UINT flags, CPoint point)
+{
+    const std::optional<CellHit> hit = CellAt(point);
+    if (!hit)
+    {
+        CListCtrlWithCustomDraw::OnRButtonDown(flags, point);
+        return;
+    }
+    SetFocusRow(RowAtIndex(hit->index)->Key(), true);
+    TakeFocus();
+    if (auto* const parent = dynamic_cast<GridEditMenuParent*>(GetParent()))
+    {
+        CPoint screenPoint = point;
+        ClientToScreen(&screenPoint);
+        parent->TrackEditMenu(screenPoint, GetDlgCtrlID());
+    }
+}

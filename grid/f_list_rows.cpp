@@ -1,0 +1,276 @@
+#include "grid/f_list_ctrl.h"
+
+#include <algorithm>
+
+namespace
+{
+// Every grid draws from this, so that a key tells rows of all grids apart.
+RowKey NewRowKey()
+{
+    static std::uintptr_t lastKey = 0;
+    return reinterpret_cast<RowKey>(++lastKey);
+}
+
+/// Keeps a visible list from painting until the end of a scope. A hidden one is left alone: switching its drawing back
+/// on would show it.
+class PaintingPause
+{
+public:
+    explicit PaintingPause(CListCtrl& list) : m_list(list), m_paused(list.IsWindowVisible() != FALSE)
+    {
+        if (m_paused)
+            m_list.SetRedraw(FALSE);
+    }
+    ~PaintingPause()
+    {
+        if (m_paused)
+        {
+            m_list.SetRedraw(TRUE);
+            m_list.Invalidate();
+        }
+    }
+    PaintingPause(const PaintingPause&) = delete;
+    PaintingPause& operator=(const PaintingPause&) = delete;
+
+private:
+    CListCtrl& m_list;
+    bool m_paused;
+};
+}  // namespace
+
+// --- the model ---
+
+CFListCtrl::CFListRow* CFListCtrl::CreateRow(LPCTSTR text, int image, void* userData)
+{
+    auto row = std::make_unique<CFListRow>(*this, NewRowKey(), userData);
+    for (int column = 0; column < ColumnCount(); ++column)
+        row->InsertItem(column, column == 0 ? text : L"", kCellText);
+    if (ColumnCount() > 0)
+        row->Item(0).image = image;
+    return row.release();
+}
+
+RowKey CFListCtrl::AddTopRow(CFListRow* row)
+{
+    CloseEditor();
+    const RowKey key = Attach(row, nullptr);
+    if (GetSafeHwnd() != nullptr)
+        ShowRow(*row, GetItemCount());
+    return key;
+}
+
+RowKey CFListCtrl::AddChildRow(RowKey parentKey, CFListRow* row)
+{
+    CloseEditor();
+    CFListRow* const parent = FindRow(parentKey);
+    if (parent == nullptr)
+    {
+        delete row;
+        return nullptr;
+    }
+    const CFListRow* const formerLast = parent->LastChild();
+    const RowKey key = Attach(row, parent);
+    if (parent->IsExpanded() && IsShown(*parent))
+        ShowRow(*row, formerLast != nullptr ? IndexBehind(*formerLast) : parent->ListIndex() + 1);
+    RedrawRow(*parent);  // the first child brings the expand image
+    return key;
+}
+
+RowKey CFListCtrl::Attach(CFListRow* row, CFListRow* parent)
+{
+    // A row that was made before a column was inserted lacks a cell.
+    while (row->ItemCount() < ColumnCount())
+        row->InsertItem(row->ItemCount(), L"", kCellText);
+
+    RowList& siblings = parent != nullptr ? parent->m_children : m_topRows;
+    row->m_parent = parent;
+    row->m_level = parent != nullptr ? parent->Level() + 1 : 0;
+    if (!siblings.IsEmpty())
+    {
+        row->m_previousSibling = siblings.GetTail();
+        row->m_previousSibling->m_nextSibling = row;
+    }
+    row->m_position = siblings.AddTail(row);
+    m_rowsByKey.emplace(row->Key(), row);
+    return row->Key();
+}
+
+void CFListCtrl::DeleteRow(RowKey key)
+{
+    CloseEditor();
+    CFListRow* const row = FindRow(key);
+    if (row == nullptr)
+        return;
+    CFListRow* const parent = row->Parent();
+    HandFocusOver(*row);
+    HideRow(*row);
+    (parent != nullptr ? parent->m_children : m_topRows).RemoveAt(row->m_position);
+    if (row->m_previousSibling != nullptr)
+        row->m_previousSibling->m_nextSibling = row->m_nextSibling;
+    if (row->m_nextSibling != nullptr)
+        row->m_nextSibling->m_previousSibling = row->m_previousSibling;
+    Forget(*row);
+    delete row;
+    if (parent != nullptr)
+        RedrawRow(*parent);  // the last child takes the expand image along
+}
+
+void CFListCtrl::Forget(CFListRow& row)
+{
+    for (CFListRow* child = row.FirstChild(); child != nullptr; child = child->NextSibling())
+        Forget(*child);
+    m_rowsByKey.erase(row.Key());
+}
+
+CFListCtrl::CFListRow* CFListCtrl::FindRow(RowKey key) const
+{
+    const auto found = m_rowsByKey.find(key);
+    return found != m_rowsByKey.end() ? found->second : nullptr;
+}
+
+CFListCtrl::CFListRow* CFListCtrl::FirstTopRow() const
+{
+    return m_topRows.IsEmpty() ? nullptr : m_topRows.GetHead();
+}
+
+// --- list indices ---
+
+CFListCtrl::CFListRow* CFListCtrl::RowAtIndex(int index) const
+{
+    if (index < 0 || index >= GetItemCount())
+        return nullptr;
+    return reinterpret_cast<CFListRow*>(GetItemData(index));
+}
+
+bool CFListCtrl::IsShown(const CFListRow& row) const
+{
+    return row.m_listIndex >= 0;
+}
+
+// Inserting and removing rows moves all rows below. Instead of renumbering them each time, a row that is asked for its
+// index compares with the list, and the rows that lie between the last exact index and the asked one are renumbered
+// then. So a run of insertions or removals costs linear time, and every answer is right at every moment.
+int CFListCtrl::IndexOf(const CFListRow& row) const
+{
+    if (!IsShown(row) || RowAtIndex(row.m_listIndex) == &row)
+        return row.m_listIndex;
+    const CFListRow* renumbered = nullptr;
+    while (renumbered != &row && m_exactIndices < GetItemCount())
+    {
+        renumbered = RowAtIndex(m_exactIndices);
+        renumbered->m_listIndex = m_exactIndices++;
+    }
+    return row.m_listIndex;
+}
+
+// List index behind a shown row and all that is shown below it.
+int CFListCtrl::IndexBehind(const CFListRow& row) const
+{
+    const CFListRow* last = &row;
+    while (last->IsExpanded() && last->LastChild() != nullptr)
+        last = last->LastChild();
+    return last->ListIndex() + 1;
+}
+
+// --- showing and hiding ---
+
+// Shows the row alone, not its children.
+void CFListCtrl::ShowRow(CFListRow& row, int index)
+{
+    m_exactIndices = std::min(m_exactIndices, index);
+    row.m_listIndex = index;
+    LVITEM item{};
+    item.mask = LVIF_TEXT | LVIF_PARAM;
+    item.iItem = index;
+    item.pszText = const_cast<LPTSTR>(row.ItemCount() > 0 ? static_cast<LPCTSTR>(row.Text(0)) : L"");
+    item.lParam = reinterpret_cast<LPARAM>(&row);
+    if (InsertItem(&item) < 0)
+        AfxThrowMemoryException();
+    for (int column = 1; column < row.ItemCount(); ++column)
+        if (!row.Text(column).IsEmpty())
+            SetItemText(index, column, row.Text(column));
+}
+
+void CFListCtrl::ShowChildren(CFListRow& row)
+{
+    const PaintingPause pause(*this);
+    int index = row.ListIndex();
+    SetItemCount(GetItemCount() + row.ChildCount());  // makes room for all at once
+    for (CFListRow* child = row.FirstChild(); child != nullptr; child = child->NextSibling())
+        ShowRow(*child, ++index);
+}
+
+// Takes the row and what is shown below it out of the list.
+void CFListCtrl::HideRow(CFListRow& row)
+{
+    if (!IsShown(row))
+        return;
+    HideChildren(row);
+    const int index = row.ListIndex();
+    m_exactIndices = std::min(m_exactIndices, index);
+    row.m_listIndex = -1;
+    DeleteItem(index);
+}
+
+// From the last one up, so that the rows still to be removed keep their indices.
+void CFListCtrl::HideChildren(CFListRow& row)
+{
+    row.m_collapsed = 1;
+    for (CFListRow* child = row.LastChild(); child != nullptr; child = child->PreviousSibling())
+        HideRow(*child);
+}
+
+void CFListCtrl::ExpandRow(RowKey key)
+{
+    const CFListRow* const found = FindRow(key);
+    if (found == nullptr || found->IsExpanded() || !IsShown(*found) || found->ChildCount() == 0)
+        return;
+    CloseEditor();
+    CFListRow* const row = FindRow(key);
+    if (row == nullptr)
+        return;
+    {
+        const NotificationLock lock(*this);
+        row->m_collapsed = 0;
+        ShowChildren(*row);
+        EnsureVisible(row->LastChild()->ListIndex(), FALSE);
+        EnsureVisible(row->ListIndex(), FALSE);
+        SetFocusCell(m_focusKey, m_focusColumn, true);
+    }
+    Notify(kGridRowExpanded, row, m_focusColumn, CellText(row, m_focusColumn));
+    RedrawRow(key);
+}
+
+void CFListCtrl::CollapseRow(RowKey key)
+{
+    const CFListRow* const found = FindRow(key);
+    if (found == nullptr || !found->IsExpanded() || found->ChildCount() == 0)
+        return;
+    CloseEditor();
+    CFListRow* const row = FindRow(key);
+    if (row == nullptr)
+        return;
+    const CFListRow* const focus = FocusRow();
+    const bool focusRemoved = focus != nullptr && focus != row && focus->IsWithin(*row);
+    {
+        const NotificationLock lock(*this);
+        const PaintingPause pause(*this);
+        HideChildren(*row);
+    }
+    Notify(kGridRowCollapsed, row, m_focusColumn, CellText(row, m_focusColumn));
+    if (focusRemoved)
+        SetFocusCell(key, m_focusColumn, true);
+    RedrawRow(key);
+}
+
+void CFListCtrl::RedrawRow(const CFListRow& row)
+{
+    if (IsShown(row))
+        RedrawItems(row.ListIndex(), row.ListIndex());
+}
+
+void CFListCtrl::RedrawRow(RowKey key)
+{
+    if (const CFListRow* const row = FindRow(key))
+        RedrawRow(*row);
+}

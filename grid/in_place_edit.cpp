@@ -1,0 +1,87 @@
+#include "grid/in_place_edit.h"
+
+namespace
+{
+bool Ends(UINT key)
+{
+    switch (key)
+    {
+    case VK_TAB:
+    case VK_RETURN:
+    case VK_ESCAPE:
+    case VK_SPACE:
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_UP:
+    case VK_DOWN:
+        return true;
+    case VK_LEFT:
+    case VK_RIGHT:
+        return ::GetKeyState(VK_CONTROL) < 0;
+    default:
+        return false;
+    }
+}
+}  // namespace
+
+BEGIN_MESSAGE_MAP(CInPlaceEdit, CEdit)
+    ON_WM_CREATE()
+    ON_WM_KILLFOCUS()
+    ON_WM_NCDESTROY()
+    ON_WM_GETDLGCODE()
+    ON_WM_KEYDOWN()
+    ON_WM_CHAR()
+END_MESSAGE_MAP()
+
+CInPlaceEdit::CInPlaceEdit(RowKey rowKey, std::int32_t column, LPCTSTR initialText, bool selectAll)
+    : m_cell{rowKey, column}, m_initialText(initialText), m_selectAll(selectAll)
+{
+}
+
+int CInPlaceEdit::OnCreate(LPCREATESTRUCT create)
+{
+    if (CEdit::OnCreate(create) == -1)
+        return -1;
+    SetFont(GetParent()->GetFont());
+    SetWindowText(m_initialText);
+    if (m_selectAll)
+        SetSel(0, -1);
+    else
+        SetSel(m_initialText.GetLength(), m_initialText.GetLength());
+    SendMessage(EM_SCROLLCARET);
+    return 0;
+}
+
+void CInPlaceEdit::OnKillFocus(CWnd* newFocus)
+{
+    const HWND window = m_hWnd;
+    CEdit::OnKillFocus(newFocus);
+    ReportEnd(*this, m_cell, kGridEditClosed, 0);
+    ::DestroyWindow(window);
+}
+
+void CInPlaceEdit::OnNcDestroy()
+{
+    CEdit::OnNcDestroy();
+    delete this;
+}
+
+// Enter and Escape would otherwise be the dialog's.
+UINT CInPlaceEdit::OnGetDlgCode()
+{
+    return CEdit::OnGetDlgCode() | DLGC_WANTALLKEYS;
+}
+
+void CInPlaceEdit::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (Ends(key))
+        EndByKey(*this, m_cell, key);
+    else
+        CEdit::OnKeyDown(key, repeat, flags);
+}
+
+void CInPlaceEdit::OnChar(UINT character, UINT repeat, UINT flags)
+{
+    CEdit::OnChar(character, repeat, flags);
+    GrowToText(*this);
+}
