@@ -62,7 +62,7 @@ std::optional<TypedDeviation> ReadTypedDeviation(std::string_view typed)
 
     if (IsPoint(text.front()))
     {
-        text.insert(0, "0");
+        text.insert(text.begin(), '0');
         if (!HasOnly(kDigits, text, 2))
             return std::nullopt;
     }
