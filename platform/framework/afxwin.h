@@ -3,6 +3,7 @@
 /// Windows, dialogs, standard controls, drawing, menus and the application object.
 
 #include "afx.h"
+#include "afxcoll.h"
 #include "application/app.h"
 #include "application/message_box.h"
 #include "controls/button.h"
