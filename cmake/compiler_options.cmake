@@ -10,8 +10,8 @@ endif()
 
 option(CALCTOL_SANITIZE "Address and undefined-behaviour sanitizers" OFF)
 if(CALCTOL_SANITIZE)
-    target_compile_options(calctol_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
-                                                     -fno-omit-frame-pointer)
+    target_compile_options(calctol_options INTERFACE -fsanitize=address,undefined,float-cast-overflow
+                                                     -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(calctol_options INTERFACE -fsanitize=address,undefined)
 endif()
 
