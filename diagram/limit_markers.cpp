@@ -11,6 +11,7 @@ namespace
 
 constexpr int kSideInset = 60;                // kept free beside the outermost marker, room for its labels
 constexpr double kSmallestSeparation = 40.0;  // between the two computed markers on one side
+constexpr double kEqualShare = 1e-9;          // of the scale, below a thousandth of a pixel
 
 enum class Limit
 {
@@ -39,12 +40,19 @@ double LargestFinite(const DiagramDeviations& deviations)
     return largest;
 }
 
+// Whether a deviation is the largest one, or equals it but for the last bits of the doubles: the same decimal number
+// differs by so much between a required and a computed deviation.
+bool IsLargest(double deviation, double largest)
+{
+    return std::abs(deviation) >= largest * (1.0 - kEqualShare);
+}
+
 double Distance(double deviation, double largest, int reach)
 {
     const double size = std::abs(deviation);
     if (largest == 0.0 && size == 0.0)
         return 0.0;
-    if (size == largest)  // exactly at the inset, where the quotient may come out one bit smaller
+    if (IsLargest(deviation, largest) && std::isfinite(deviation))  // at the inset, where the quotient may fall short
         return reach;
     const double product = reach * size;
     return std::isfinite(product) ? product / largest : reach * (size / largest);
@@ -113,9 +121,9 @@ LimitMarkers PlaceSpreadMarkers(const DiagramDeviations& deviations, int width)
     const double largest = LargestFinite(deviations);
     MarkerDistances distances = Distances(deviations, ScaleReach(width));
     bool areSpread = false;
-    if (largest == std::abs(deviations.computedUpper) && deviations.computedLower >= 0.0)
+    if (IsLargest(deviations.computedUpper, largest) && deviations.computedLower >= 0.0)
         areSpread = Spread(distances, &MarkerDistances::computedUpper, &MarkerDistances::computedLower);
-    else if (largest == std::abs(deviations.computedLower) && deviations.computedUpper <= 0.0)
+    else if (IsLargest(deviations.computedLower, largest) && deviations.computedUpper <= 0.0)
         areSpread = Spread(distances, &MarkerDistances::computedLower, &MarkerDistances::computedUpper);
 
     LimitMarkers markers = Place(deviations, distances, width);
