@@ -60,7 +60,6 @@ public:
     int m_nCmdShow = SW_SHOWNORMAL;
     LPCWSTR m_pszAppName = nullptr;
 
-    int Run() override;
     HICON LoadIcon(LPCWSTR name) const;
     HICON LoadIcon(UINT id) const;
     HCURSOR LoadCursor(LPCWSTR name) const;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include <commctrl.h>
 
 #include "graphics/gdi_object.h"
@@ -21,6 +23,8 @@ public:
     HIMAGELIST GetSafeHandle() const { return m_hImageList; }
     operator HIMAGELIST() const { return m_hImageList; }
     static CImageList* FromHandle(HIMAGELIST images);
+    /// The permanent object of the image list; null when there is none.
+    static CImageList* FromHandlePermanent(HIMAGELIST images);
     BOOL Attach(HIMAGELIST images);
     HIMAGELIST Detach();
 

@@ -54,13 +54,14 @@ protected:
     /// The dialog ends with IDCANCEL.
     virtual void OnCancel();
 
-    void PostNcDestroy() override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     DECLARE_MESSAGE_MAP()
 
 private:
-    HWND CreateFromTemplate(LPCWSTR templateName, HWND owner);
-    INT_PTR RunModal(ModalRun& run, HWND owner);
+    BOOL CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner);
+    /// The window or this object goes while DoModal runs: its loop ends and leaves the object alone.
+    void AbandonModalRun();
     LRESULT OnHandleInitDialog(WPARAM wParam, LPARAM lParam);
 
     LPCWSTR m_templateName = nullptr;  // or a number, as MAKEINTRESOURCE makes it

@@ -2,6 +2,8 @@
 
 #include <type_traits>
 
+#include <windows.h>
+
 #include <commctrl.h>
 
 #include "window/command_target.h"

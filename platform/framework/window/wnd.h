@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include <commctrl.h>
 
 #include "window/message_map.h"
@@ -25,7 +27,6 @@ class FRAMEWORK_API CWnd : public CCmdTarget
 
 public:
     CWnd();
-    explicit CWnd(HWND window);
     ~CWnd() override;
 
     HWND m_hWnd = nullptr;
@@ -296,7 +297,8 @@ private:
     friend class WindowCreation;
     friend LRESULT CallWindowObject(CWnd& wnd, const MSG& message);
 
-    void HookProcedure(HWND window);
+    /// Attaches the window and takes its messages.
+    BOOL TakeMessages(HWND window);
     /// Offers to the control what it sent to its parent. Non-zero when the control deals with it.
     static BOOL ReflectToControl(HWND control, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
 
@@ -307,14 +309,6 @@ inline HWND HandleOf(const CWnd* wnd)
 {
     return wnd == nullptr ? nullptr : wnd->m_hWnd;
 }
-
-/// Places for SetWindowPos.
-#define FRAMEWORK_WINDOW_PLACE(name) FRAMEWORK_API extern const CWnd name
-FRAMEWORK_WINDOW_PLACE(wndTop);
-FRAMEWORK_WINDOW_PLACE(wndBottom);
-FRAMEWORK_WINDOW_PLACE(wndTopMost);
-FRAMEWORK_WINDOW_PLACE(wndNoTopMost);
-#undef FRAMEWORK_WINDOW_PLACE
 
 /// Registers a window class with the framework; does nothing when the class exists.
 FRAMEWORK_API BOOL AfxRegisterClass(WNDCLASS* windowClass);

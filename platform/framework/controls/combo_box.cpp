@@ -1,0 +1,51 @@
+#include "controls/combo_box.h"
+
+#include "window/control_class.h"
+
+IMPLEMENT_DYNCREATE(CComboBox, CWnd)
+
+namespace
+{
+const ControlClass controlClass(WC_COMBOBOX, RUNTIME_CLASS(CComboBox));
+}
+
+CComboBox::CComboBox() = default;
+CComboBox::~CComboBox() = default;
+
+BOOL CComboBox::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
+{
+    return CWnd::Create(WC_COMBOBOX, nullptr, style, rect, parent, id);
+}
+
+void CComboBox::DrawItem(LPDRAWITEMSTRUCT) {}
+
+void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
+
+void CComboBox::GetLBText(int index, CString& text) const
+{
+    const int length = GetLBTextLen(index);
+    if (length == CB_ERR)
+    {
+        text.Empty();
+        return;
+    }
+    SendMessage(CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.GetBuffer(length)));
+    text.ReleaseBuffer();
+}
+
+BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    switch (message)
+    {
+    case WM_DRAWITEM:
+        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        *result = TRUE;
+        return TRUE;
+    case WM_MEASUREITEM:
+        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
+        *result = TRUE;
+        return TRUE;
+    default:
+        return CWnd::OnChildNotify(message, wParam, lParam, result);
+    }
+}

@@ -1,0 +1,30 @@
+#include "controls/slider_ctrl.h"
+
+#include "window/control_class.h"
+
+IMPLEMENT_DYNCREATE(CSliderCtrl, CWnd)
+
+namespace
+{
+const ControlClass controlClass(TRACKBAR_CLASS, RUNTIME_CLASS(CSliderCtrl));
+}
+
+CSliderCtrl::CSliderCtrl() = default;
+CSliderCtrl::~CSliderCtrl() = default;
+
+BOOL CSliderCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
+{
+    return CWnd::Create(TRACKBAR_CLASS, nullptr, style, rect, parent, id);
+}
+
+void CSliderCtrl::GetRange(int& lowest, int& highest) const
+{
+    lowest = GetRangeMin();
+    highest = GetRangeMax();
+}
+
+void CSliderCtrl::SetRange(int lowest, int highest, BOOL redraw)
+{
+    SetRangeMin(lowest, FALSE);
+    SetRangeMax(highest, redraw);
+}

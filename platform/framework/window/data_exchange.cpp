@@ -1,0 +1,53 @@
+#include "window/data_exchange.h"
+
+CDataExchange::CDataExchange(CWnd* dialog, BOOL saveAndValidate)
+    : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(dialog)
+{
+}
+
+HWND CDataExchange::PrepareCtrl(int id)
+{
+    const HWND control = ::GetDlgItem(HandleOf(m_pDlgWnd), id);
+    if (control == nullptr)
+        AfxThrowNotSupportedException();
+    return control;
+}
+
+void CDataExchange::Fail()
+{
+    AfxThrowUserException();
+}
+
+void DDX_Control(CDataExchange* exchange, int id, CWnd& control)
+{
+    if (control.m_hWnd != nullptr)
+        return;
+    if (!control.SubclassWindow(exchange->PrepareCtrl(id)))
+        AfxThrowNotSupportedException();
+}
+
+void DDX_Text(CDataExchange* exchange, int id, CString& text)
+{
+    exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+        exchange->m_pDlgWnd->GetDlgItemText(id, text);
+    else
+        exchange->m_pDlgWnd->SetDlgItemText(id, text);
+}
+
+void CWnd::DoDataExchange(CDataExchange*) {}
+
+BOOL CWnd::UpdateData(BOOL saveAndValidate)
+{
+    CDataExchange exchange(this, saveAndValidate);
+    try
+    {
+        DoDataExchange(&exchange);
+    }
+    catch (CUserException* exception)
+    {
+        exception->Delete();
+        return FALSE;
+    }
+    return TRUE;
+}

@@ -1,0 +1,263 @@
+#include "window/dialog.h"
+
+#include "application/app.h"
+#include "window/disabled_owners.h"
+#include "window/message_map.h"
+#include "window/temporary_objects.h"
+#include "window/window_class.h"
+#include "window/window_creation.h"
+
+/// One run of DoModal. It outlives the dialog's window and even the dialog object.
+struct ModalRun
+{
+    INT_PTR result = -1;
+    bool ended = false;
+    bool abandoned = false;  // the window or the object is gone: neither may be touched
+};
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+    // window
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::OnHandleInitDialog)
+    // controls
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+END_MESSAGE_MAP()
+
+namespace
+{
+constexpr wchar_t kDialogClass[] = L"#32770";
+constexpr UINT kFirstCommandId = 0x8000;  // below it are the IDs of controls, whose commands stay in their dialog
+constexpr UINT kLastCommandId = 0xEFFF;   // above it are the IDs of the system menu
+
+/// The template in the current resource module; null when there is none.
+const DLGTEMPLATE* FindTemplate(LPCWSTR name)
+{
+    const HINSTANCE module = AfxFindResourceHandle(name, RT_DIALOG);
+    const HRSRC resource = ::FindResourceW(module, name, RT_DIALOG);
+    const HGLOBAL loaded = resource == nullptr ? nullptr : ::LoadResource(module, resource);
+    return loaded == nullptr ? nullptr : static_cast<const DLGTEMPLATE*>(::LockResource(loaded));
+}
+
+INT_PTR CALLBACK DialogProcedure(HWND, UINT message, WPARAM, LPARAM)
+{
+    return message == WM_INITDIALOG;
+}
+
+HWND OwnerOfModeless(const CWnd* parent)
+{
+    return HandleOf(parent == nullptr ? AfxGetMainWnd() : parent);
+}
+
+HWND OwnerOfModal(const CWnd* parent)
+{
+    if (parent != nullptr)
+        return parent->m_hWnd;
+    const HWND main = HandleOf(AfxGetMainWnd());
+    return main == nullptr ? nullptr : ::GetLastActivePopup(main);
+}
+
+// Handles the messages of the whole thread. Uses nothing of the dialog, which may be gone any time.
+void RunLoop(ModalRun& run)
+{
+    const TemporaryObjects::ModalScope temporaryObjectsOutside;
+    CWinThread* thread = AfxGetThread();
+    MSG waiting;
+    while (!run.ended)
+    {
+        if (!::PeekMessageW(&waiting, nullptr, 0, 0, PM_NOREMOVE))
+            thread->OnIdle(0);
+        if (!thread->PumpMessage())
+        {
+            AfxPostQuitMessage(static_cast<int>(thread->GetCurrentMessage()->wParam));  // for the loop outside
+            run.result = -1;
+            run.ended = true;
+        }
+    }
+}
+
+// A loop that waits for a message must wake up and see that its dialog has ended.
+void WakeLoop()
+{
+    ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0);
+}
+}  // namespace
+
+CDialog::CDialog() = default;
+
+CDialog::CDialog(UINT templateId, CWnd* parent) : m_templateName(MAKEINTRESOURCEW(templateId)), m_parent(parent) {}
+
+CDialog::CDialog(LPCWSTR templateName, CWnd* parent) : m_parent(parent)
+{
+    if (IS_INTRESOURCE(templateName))
+    {
+        m_templateName = templateName;
+        return;
+    }
+    m_templateText = templateName;
+    m_templateName = m_templateText;
+}
+
+CDialog::~CDialog()
+{
+    if (m_modalRun != nullptr)
+        AbandonModalRun();
+    if (m_hWnd != nullptr)
+        CDialog::DestroyWindow();
+}
+
+BOOL CDialog::Create(UINT templateId, CWnd* parent)
+{
+    return Create(MAKEINTRESOURCEW(templateId), parent);
+}
+
+BOOL CDialog::Create(LPCWSTR templateName, CWnd* parent)
+{
+    const DLGTEMPLATE* dialogTemplate = FindTemplate(templateName);
+    return dialogTemplate != nullptr && CreateFromTemplate(dialogTemplate, OwnerOfModeless(parent));
+}
+
+// This object may be deleted when the function returns.
+BOOL CDialog::CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner)
+{
+    RegisterCommonControls();
+    const WindowCreation creation(*this, kDialogClass);
+    const HWND window =
+        ::CreateDialogIndirectParamW(AfxGetInstanceHandle(), dialogTemplate, owner, &DialogProcedure, 0);
+    return window != nullptr && ::IsWindow(window);
+}
+
+INT_PTR CDialog::DoModal()
+{
+    const DLGTEMPLATE* dialogTemplate = FindTemplate(m_templateName);
+    if (dialogTemplate == nullptr || m_modalRun != nullptr || m_hWnd != nullptr)
+        return -1;
+    const HWND owner = OwnerOfModal(m_parent);
+    ModalRun run;
+    m_modalRun = &run;
+    DisabledOwners owners(owner);
+    const BOOL created = CreateFromTemplate(dialogTemplate, owner);
+    if (created && !run.ended)
+    {
+        const HWND window = m_hWnd;
+        ::ShowWindow(window, SW_SHOWNORMAL);
+        ::UpdateWindow(window);
+        RunLoop(run);
+    }
+    owners.Restore();  // before the window goes, so that activation can return to the owner
+    if (run.abandoned)
+    {
+        if (::GetActiveWindow() == nullptr && ::IsWindow(owner))
+            ::SetActiveWindow(owner);
+        return -1;
+    }
+    m_modalRun = nullptr;
+    if (!created)
+        return -1;
+    DestroyWindow();
+    return run.result;
+}
+
+void CDialog::EndDialog(int result)
+{
+    if (m_modalRun != nullptr)
+    {
+        m_modalRun->result = result;
+        m_modalRun->ended = true;
+        WakeLoop();
+    }
+    else if (m_hWnd != nullptr)
+    {
+        ::EndDialog(m_hWnd, result);
+    }
+}
+
+void CDialog::AbandonModalRun()
+{
+    m_modalRun->result = -1;
+    m_modalRun->ended = true;
+    m_modalRun->abandoned = true;
+    m_modalRun = nullptr;
+    WakeLoop();
+}
+
+LRESULT CDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_NCDESTROY && m_modalRun != nullptr)
+        AbandonModalRun();
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
+LRESULT CDialog::OnHandleInitDialog(WPARAM, LPARAM)
+{
+    Default();
+    return OnInitDialog();
+}
+
+BOOL CDialog::OnInitDialog()
+{
+    if (!UpdateData(FALSE))
+    {
+        EndDialog(-1);
+        return FALSE;
+    }
+    return TRUE;
+}
+
+void CDialog::OnOK()
+{
+    if (UpdateData(TRUE))
+        EndDialog(IDOK);
+}
+
+void CDialog::OnCancel()
+{
+    EndDialog(IDCANCEL);
+}
+
+BOOL CDialog::PreTranslateMessage(MSG* message)
+{
+    if (CWnd::PreTranslateMessage(message))
+        return TRUE;
+    const bool key = message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST;
+    const bool mouse = message->message >= WM_MOUSEFIRST && message->message <= WM_MOUSELAST;
+    return m_hWnd != nullptr && (key || mouse) && IsDialogMessage(message);
+}
+
+BOOL CDialog::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo)
+{
+    if (CWnd::OnCmdMsg(id, code, extra, handlerInfo))
+        return TRUE;
+    if (code != CN_COMMAND || id < kFirstCommandId || id > kLastCommandId)
+        return FALSE;
+    CWnd* owner = FromHandlePermanent(::GetParent(m_hWnd));
+    if (owner != nullptr && owner->OnCmdMsg(id, code, extra, handlerInfo))
+        return TRUE;
+    return AfxGetThread()->OnCmdMsg(id, code, extra, handlerInfo);
+}
+
+void CDialog::NextDlgCtrl() const
+{
+    SendMessage(WM_NEXTDLGCTL, FALSE, FALSE);
+}
+
+void CDialog::PrevDlgCtrl() const
+{
+    SendMessage(WM_NEXTDLGCTL, TRUE, FALSE);
+}
+
+void CDialog::GotoDlgCtrl(CWnd* control)
+{
+    SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(HandleOf(control)), TRUE);
+}
+
+DWORD CDialog::GetDefID() const
+{
+    return static_cast<DWORD>(SendMessage(DM_GETDEFID));
+}
+
+void CDialog::SetDefID(UINT id)
+{
+    SendMessage(DM_SETDEFID, id);
+}

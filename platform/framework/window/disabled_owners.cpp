@@ -1,0 +1,26 @@
+#include "window/disabled_owners.h"
+
+DisabledOwners::DisabledOwners(HWND owner)
+{
+    HWND window = owner == nullptr ? nullptr : ::GetAncestor(owner, GA_ROOT);
+    while (window != nullptr)
+    {
+        if (::IsWindowEnabled(window))
+        {
+            m_disabled.push_back(window);
+            ::EnableWindow(window, FALSE);
+        }
+        window = ::GetWindow(window, GW_OWNER);
+    }
+}
+
+void DisabledOwners::Restore()
+{
+    while (!m_disabled.empty())
+    {
+        const HWND window = m_disabled.back();
+        m_disabled.pop_back();
+        if (::IsWindow(window))
+            ::EnableWindow(window, TRUE);
+    }
+}
