@@ -1,0 +1,43 @@
+#include <cstdio>
+
+#include <gtest/gtest.h>
+
+#include <afxwin.h>
+
+#include "tests/support/leftover_windows.h"
+#include "tests/support/message_box_guard.h"
+#include "tests/support/planned_actions.h"
+#include "tests/support/private_desktop.h"
+#include "tests/support/watchdog.h"
+
+namespace
+{
+// The brief listener of GoogleTest keeps it to itself.
+class SeedPrinter : public testing::EmptyTestEventListener
+{
+    void OnTestIterationStart(const testing::UnitTest& program, int) override
+    {
+        if (testing::GTEST_FLAG(shuffle))
+            std::printf("shuffled with seed %d\n", program.random_seed());
+    }
+};
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    if (!EnterPrivateDesktop())
+    {
+        std::fprintf(stderr, "no desktop for the test windows (error %lu)\n", ::GetLastError());
+        return 1;
+    }
+    testing::InitGoogleTest(&argc, argv);
+    if (!AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOWNORMAL))
+        return 1;
+    const MessageBoxGuard messageBoxGuard;
+    PreparePlannedActions();
+    testing::TestEventListeners& listeners = testing::UnitTest::GetInstance()->listeners();
+    listeners.Append(new SeedPrinter);  // the list deletes them
+    listeners.Append(MakeLeftoverCheck().release());
+    listeners.Append(MakeWatchdog().release());
+    return RUN_ALL_TESTS();
+}
