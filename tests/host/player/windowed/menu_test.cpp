@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <windows.h>
+
+#include <windowsx.h>
+
 #include "test_play.h"
 #include "test_windows.h"
 

@@ -5,6 +5,10 @@
 #include <gtest/gtest.h>
 
 #include "host/player/picture.h"
+#include <windows.h>
+
+#include <windowsx.h>
+
 #include "test_play.h"
 #include "test_windows.h"
 
@@ -308,7 +312,10 @@ TEST_F(PlayedPicture, TheWholePictureHasTheChildrenInTheirPlaces)
 TEST_F(PlayedPicture, PicturesLeaveNothingBehind)
 {
     ShowBitmap(1003);
-    const std::string look = "expect-image weight 1024 1003\nexpect-image weight 1018 2 1\n"
+    const std::filesystem::path file = std::filesystem::temp_directory_path() / "player_steady.png";
+    const std::string look = "screenshot weight \"" + file.generic_string() +
+                             "\"\nexpect-image weight 1024 1003\nexpect-image weight 1018 2 1\n"
                              "expect-focus weight 1018 -1 -1\nexpect-pixel weight 1024 10 0 FF0000\n";
     ExpectHolds(host, look + "mark\n" + look + look + "expect-steady\n");
+    std::filesystem::remove(file);
 }

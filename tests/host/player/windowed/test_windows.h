@@ -5,8 +5,6 @@
 
 #include <windows.h>
 
-#include <windowsx.h>
-
 #include <commctrl.h>
 
 /// A dialog made of controls that are given one by one, for tests of what drives and reads windows. Kept until its end;
