@@ -147,9 +147,10 @@ class PlayedPicture : public testing::Test
 protected:
     PlayedPicture()
     {
-        g_focusRow = g_focusColumn = -1;
-        PictureDialog::shownBitmap = 0;
         PictureDialog::library = resources.Library();
+        // What the test before has set is painted already.
+        Focus(-1, -1);
+        ShowBitmap(0);
     }
 
     void Focus(int row, int column)
