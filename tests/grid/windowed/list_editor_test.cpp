@@ -1,0 +1,311 @@
+#include "grid_window.h"
+#include "tests/support/framework_printers.h"
+#include "tests/support/message_pump.h"
+
+namespace
+{
+using Told = std::vector<std::string>;
+
+// Two rows; column 2, 210 to 290, is a drop-down list cell with the entries one, two, three. The focus is on A's first
+// cell.
+class ListEditor : public GridTest
+{
+protected:
+    ListEditor()
+    {
+        window.entries = {{L"one", 11}, {L"two", 12}, {L"three", 13}};
+        window.selectedEntry = 0;
+        for (const RowKey key : {a, b})
+            grid.SetCellKind(key, 2, kCellList);
+        grid.SetFocusCell(a, 1, true);
+        window.TakeTold();
+    }
+
+    /// Moves the focus to A's list cell, which opens its editor.
+    HWND OpenIt()
+    {
+        grid.SetFocusCell(a, 2, true);
+        window.TakeTold();
+        return List();
+    }
+    HWND List() const { return Editor(302); }
+    bool IsDropped() const { return ::SendMessageW(List(), CB_GETDROPPEDSTATE, 0, 0) != 0; }
+    /// A click on an entry of the open drop-down part.
+    void PickByMouse(HWND list, int entry)
+    {
+        COMBOBOXINFO info{};
+        info.cbSize = sizeof(info);
+        ASSERT_TRUE(::GetComboBoxInfo(list, &info));
+        CRect place;
+        ::SendMessageW(info.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
+        const CPoint point = place.CenterPoint();
+        for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP})
+            ::PostMessageW(info.hwndList, message, message == WM_LBUTTONDOWN ? MK_LBUTTON : 0,
+                           MAKELPARAM(point.x, point.y));
+        PumpUntilIdle();
+    }
+
+    RowKey a = window.AddTop(L"A");
+    RowKey b = window.AddTop(L"B");
+};
+}  // namespace
+
+TEST_F(ListEditor, ShowsTheParentsEntriesWithTheirValues)
+{
+    window.selectedEntry = 1;
+    const HWND list = OpenIt();
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(::SendMessageW(list, CB_GETCOUNT, 0, 0), 3);
+    EXPECT_EQ(::SendMessageW(list, CB_GETITEMDATA, 2, 0), 13);
+    EXPECT_EQ(::SendMessageW(list, CB_GETCURSEL, 0, 0), 1);
+    CString text;
+    CWnd::FromHandle(list)->GetWindowText(text);
+    EXPECT_EQ(text, L"two");
+    EXPECT_EQ(::GetFocus(), list);
+}
+
+TEST_F(ListEditor, SelectsNothingWhenTheParentNamesNone)
+{
+    window.selectedEntry = -1;
+    EXPECT_EQ(::SendMessageW(OpenIt(), CB_GETCURSEL, 0, 0), CB_ERR);
+}
+
+TEST_F(ListEditor, ClosedListCoversTheCellExactly)
+{
+    const HWND list = OpenIt();
+    CRect place;
+    ::GetWindowRect(list, &place);
+    grid.ScreenToClient(&place);
+    EXPECT_EQ(place, grid.GetCellRect(a, 2));
+}
+
+// The combo box hands the scroll bar it was created with on to its drop-down part.
+TEST_F(ListEditor, HasItsStyleWithoutClientEdge)
+{
+    const HWND list = OpenIt();
+    constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_DISABLENOSCROLL;
+    EXPECT_EQ(static_cast<DWORD>(::GetWindowLongW(list, GWL_STYLE)) & kStyle, kStyle);
+    EXPECT_EQ(::GetWindowLongW(list, GWL_EXSTYLE) & WS_EX_CLIENTEDGE, 0);
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof(info);
+    ASSERT_TRUE(::GetComboBoxInfo(list, &info));
+    EXPECT_TRUE(::GetWindowLongW(info.hwndList, GWL_STYLE) & WS_VSCROLL);
+}
+
+TEST_F(ListEditor, FontIsBoldInABoldRow)
+{
+    LOGFONT description{};
+    ::GetObjectW(reinterpret_cast<HGDIOBJ>(::SendMessageW(OpenIt(), WM_GETFONT, 0, 0)), sizeof(description),
+                 &description);
+    EXPECT_LT(description.lfWeight, FW_BOLD);
+    grid.SetFocusCell(a, 0, false);
+    grid.SetRowBold(a, true);
+    ::GetObjectW(reinterpret_cast<HGDIOBJ>(::SendMessageW(OpenIt(), WM_GETFONT, 0, 0)), sizeof(description),
+                 &description);
+    EXPECT_EQ(description.lfWeight, FW_BOLD);
+}
+
+TEST_F(ListEditor, ParentCanForbidIt)
+{
+    window.answers[kGridListContents] = 1;
+    EXPECT_EQ(OpenIt(), nullptr);
+    EXPECT_EQ(::GetDlgItem(grid.GetSafeHwnd(), 302), nullptr);
+    EXPECT_EQ(grid.FocusColumn(), 2);
+}
+
+TEST_F(ListEditor, NoEntriesOpenNoList)
+{
+    window.entries.clear();
+    EXPECT_EQ(OpenIt(), nullptr);
+}
+
+TEST_F(ListEditor, EnterOpensAndASecondEnterCommitsTheHighlightedEntry)
+{
+    OpenIt();
+    PressKey(VK_RETURN);
+    EXPECT_TRUE(IsDropped());
+    PressKey(VK_DOWN);
+    EXPECT_TRUE(IsDropped());
+    EXPECT_TRUE(window.TakeTold().empty());
+    PressKey(VK_RETURN);
+    EXPECT_EQ(window.TakeTold(), (Told{"1124 A 2 \"two\" extra=12", "1121 A 2 \"two\""}));
+    EXPECT_EQ(grid.FindRow(a)->Text(2), L"two");
+    EXPECT_EQ(grid.GetItemText(0, 2), L"two");
+}
+
+// After Enter a drop-down cell opens its editor again.
+TEST_F(ListEditor, EditorIsBackAfterACommit)
+{
+    const HWND former = OpenIt();
+    PressKey(VK_RETURN);
+    PressKey(VK_RETURN);
+    EXPECT_NE(List(), nullptr);
+    EXPECT_FALSE(::IsWindow(former) && former != List());
+    EXPECT_EQ(::GetFocus(), List());
+}
+
+TEST_F(ListEditor, VetoOfTheParentKeepsTheOldText)
+{
+    window.answers[kGridEndList] = 1;
+    OpenIt();
+    PressKey(VK_RETURN);
+    PressKey(VK_DOWN);
+    PressKey(VK_RETURN);
+    EXPECT_EQ(window.TakeTold(), (Told{"1124 A 2 \"two\" extra=12", "1121 A 2 \"A2\""}));
+    EXPECT_EQ(grid.FindRow(a)->Text(2), L"A2");
+}
+
+TEST_F(ListEditor, MinusFiveStoresNothingAndLeavesTheFocusInTheGrid)
+{
+    window.answers[kGridEndList] = -5;
+    OpenIt();
+    PressKey(VK_RETURN);
+    PressKey(VK_RETURN);
+    EXPECT_EQ(window.TakeTold(), (Told{"1124 A 2 \"one\" extra=11"}));
+    EXPECT_EQ(grid.FindRow(a)->Text(2), L"A2");
+    EXPECT_FALSE(grid.HasEditor());
+    EXPECT_EQ(::GetFocus(), grid.GetSafeHwnd());
+    EXPECT_EQ(grid.FocusKey(), a);
+    EXPECT_EQ(grid.FocusColumn(), 2);
+}
+
+TEST_F(ListEditor, EntryPickedWithTheMouseCommitsAtOnce)
+{
+    const HWND list = OpenIt();
+    ::SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
+    ASSERT_TRUE(IsDropped());
+    PickByMouse(list, 2);
+    EXPECT_EQ(window.TakeTold(), (Told{"1124 A 2 \"three\" extra=13", "1121 A 2 \"three\""}));
+    EXPECT_EQ(grid.FindRow(a)->Text(2), L"three");
+}
+
+TEST_F(ListEditor, EscapeDoesNotCommit)
+{
+    OpenIt();
+    PressKey(VK_RETURN);
+    PressKey(VK_DOWN);
+    PressKey(VK_ESCAPE);
+    EXPECT_EQ(grid.FindRow(a)->Text(2), L"A2");
+    EXPECT_EQ(window.TakeTold(), (Told{"1121 A 2 \"A2\""}));
+}
+
+TEST_F(ListEditor, TabDoesNotCommitAndMovesOn)
+{
+    for (const bool dropped : {false, true})
+    {
+        SCOPED_TRACE(dropped);
+        OpenIt();
+        if (dropped)
+            PressKey(VK_RETURN);
+        PressKey(VK_TAB);
+        EXPECT_EQ(window.TakeTold(), (Told{"1116 B 0 \"B\""}));
+        EXPECT_EQ(grid.FindRow(a)->Text(2), L"A2");
+        EXPECT_FALSE(grid.HasEditor());
+        EXPECT_EQ(::GetDlgItem(grid.GetSafeHwnd(), 302), nullptr);
+    }
+}
+
+TEST_F(ListEditor, ClickElsewhereDoesNotCommit)
+{
+    for (const bool dropped : {false, true})
+    {
+        SCOPED_TRACE(dropped);
+        const HWND list = OpenIt();
+        if (dropped)
+        {
+            PressKey(VK_RETURN);
+            PressKey(VK_DOWN);
+        }
+        // While it is dropped the list has the mouse captured: Windows sends it the click first.
+        const HWND captured = ::GetCapture();
+        if (captured != nullptr)
+        {
+            CPoint point = CellCentre(b, 0);
+            ::MapWindowPoints(grid.GetSafeHwnd(), captured, &point, 1);
+            ::PostMessageW(captured, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+            PumpUntilIdle();
+        }
+        LeftClick(grid, CellCentre(b, 0));
+        EXPECT_EQ(window.TakeTold(), (Told{"1116 B 0 \"B\""}));
+        EXPECT_EQ(grid.FindRow(a)->Text(2), L"A2");
+        EXPECT_FALSE(::IsWindow(list));
+    }
+}
+
+TEST_F(ListEditor, UpAndDownMoveWhileTheListIsClosed)
+{
+    OpenIt();
+    PressKey(VK_DOWN);
+    EXPECT_EQ(window.TakeTold(), (Told{"1116 B 2 \"B2\"", "1121 B 2 \"B2\""}));
+    EXPECT_NE(List(), nullptr);
+    PressKey(VK_UP);
+    EXPECT_EQ(window.TakeTold(), (Told{"1116 A 2 \"A2\"", "1121 A 2 \"A2\""}));
+}
+
+TEST_F(ListEditor, PageKeysMoveWhileTheListIsClosed)
+{
+    OpenIt();
+    PressKey(VK_NEXT);
+    EXPECT_EQ(grid.FocusKey(), b);
+    PressKey(VK_PRIOR);
+    EXPECT_EQ(grid.FocusKey(), a);
+}
+
+TEST_F(ListEditor, ArrowsAndPageKeysAreTheOpenLists)
+{
+    OpenIt();
+    PressKey(VK_RETURN);
+    for (const UINT key : {VK_DOWN, VK_UP, VK_NEXT, VK_PRIOR})
+    {
+        PressKey(key);
+        EXPECT_TRUE(IsDropped());
+    }
+    EXPECT_TRUE(window.TakeTold().empty());
+}
+
+TEST_F(ListEditor, LeftAndRightEndIt)
+{
+    OpenIt();
+    PressKey(VK_LEFT);
+    EXPECT_EQ(window.TakeTold(), (Told{"1116 A 1 \"A1\""}));
+    EXPECT_FALSE(grid.HasEditor());
+}
+
+TEST_F(ListEditor, SpaceIsTheLists)
+{
+    OpenIt();
+    PressKey(VK_SPACE);
+    EXPECT_NE(List(), nullptr);
+    EXPECT_TRUE(window.TakeTold().empty());
+}
+
+TEST_F(ListEditor, ScrollingClosesItWithoutCommit)
+{
+    const HWND list = OpenIt();
+    PressKey(VK_RETURN);
+    PressKey(VK_DOWN);
+    grid.SendMessage(WM_VSCROLL, SB_LINEDOWN, 0);
+    PumpUntilIdle();
+    EXPECT_FALSE(grid.HasEditor());
+    EXPECT_FALSE(::IsWindow(list));
+    EXPECT_EQ(grid.FindRow(a)->Text(2), L"A2");
+}
+
+TEST_F(ListEditor, RowDeletedUnderItClosesItWithoutCommit)
+{
+    const HWND list = OpenIt();
+    PressKey(VK_RETURN);
+    grid.DeleteRow(a);
+    PumpUntilIdle();
+    EXPECT_FALSE(::IsWindow(list));
+    EXPECT_TRUE(window.TakeTold().empty());
+    EXPECT_EQ(grid.FocusKey(), b);
+    EXPECT_FALSE(grid.HasEditor());
+}
+
+TEST_F(ListEditor, GridDestroyedWhileItIsOpenTakesItAlong)
+{
+    const HWND list = OpenIt();
+    grid.DestroyWindow();
+    EXPECT_FALSE(::IsWindow(list));
+}
