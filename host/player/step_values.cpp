@@ -91,8 +91,10 @@ ControlPath ReadControl(const ScriptWord& word, const Step& step)
 {
     ControlPath path;
     path.name = word.text;
-    if (word.quoted || word.text == "window")
-        return word.quoted ? throw std::invalid_argument("a control is a number, not the text " + word.source) : path;
+    if (word.quoted)
+        throw std::invalid_argument("a control is a number, not the text " + word.source);
+    if (word.text == "window")
+        return path;
     if (step.window == WindowRole::kMessage && (word.text == "ok" || word.text == "text"))
     {
         path.ids.push_back(word.text == "ok" ? ControlPath::kMessageOk : ControlPath::kMessageText);

@@ -123,3 +123,11 @@ TEST_F(PlayedMenu, AnOpenMenuKeepsMouseAndKeyboard)
     ExpectFails(host, "click calc 1000 0 0 right\nexpect-context 1000 32780 enabled\nclick calc 1000 0 0\n", 3,
                 "a menu is open");
 }
+
+TEST_F(PlayedMenu, TheDialogIsClosedAsByItsCloseBox)
+{
+    ExpectHolds(host, "close-dialog\n");
+    EXPECT_EQ(dialog.commands, (std::vector<std::string>{"0:2"}));
+    EnableWindow(dialog.Window(), FALSE);
+    ExpectFails(host, "close-dialog\n", 1, "the calculation dialog is disabled");
+}
