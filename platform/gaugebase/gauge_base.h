@@ -1,6 +1,6 @@
 #pragma once
 
-#include <afxwin.h>
+#include <afxcoll.h>
 
 #ifdef GAUGEBASE_EXPORTS
 #define GAUGEBASE_API __declspec(dllexport)
