@@ -173,6 +173,11 @@ void CDialog::EndDialog(int result)
     }
 }
 
+BOOL CDialog::ContinueModal() const
+{
+    return m_modalRun != nullptr && !m_modalRun->ended;
+}
+
 void CDialog::AbandonModalRun()
 {
     m_modalRun->result = -1;

@@ -33,6 +33,8 @@ public:
 
     /// Ends the modal dialog with that result, as soon as the message being handled is done; hides a modeless one.
     void EndDialog(int result);
+    /// Non-zero while the dialog runs modally and EndDialog has not been called yet.
+    BOOL ContinueModal() const;
 
     void NextDlgCtrl() const;
     void PrevDlgCtrl() const;
