@@ -1,0 +1,101 @@
+#include "drawing/gdi_painter.h"
+
+#include "drawing/display_list.h"
+#include "drawing/scoped_select.h"
+#include "drawing/text_encoding.h"
+
+namespace
+{
+
+COLORREF ToColor(Rgb color)
+{
+    return RGB(color.red, color.green, color.blue);
+}
+
+std::vector<POINT> ToPoints(const std::vector<PixelPoint>& points)
+{
+    std::vector<POINT> result;
+    result.reserve(points.size());
+    for (const PixelPoint& point : points)
+        result.push_back({point.x, point.y});
+    return result;
+}
+
+UINT ToTextAlign(TextAlign align)
+{
+    switch (align)
+    {
+    case TextAlign::Center:
+        return TA_TOP | TA_CENTER;
+    case TextAlign::Right:
+        return TA_TOP | TA_RIGHT;
+    default:
+        return TA_TOP | TA_LEFT;
+    }
+}
+
+/// One overload per primitive.
+struct PrimitivePainter
+{
+    CDC& dc;
+
+    void operator()(const LinePrimitive& line) const
+    {
+        dc.MoveTo(line.start.x, line.start.y);
+        dc.LineTo(line.end.x, line.end.y);
+    }
+
+    void operator()(const TextPrimitive& text) const
+    {
+        dc.SetTextAlign(ToTextAlign(text.align));
+        dc.SetTextColor(ToColor(text.color));
+        dc.TextOut(text.anchor.x, text.anchor.y, FromUtf8(text.text));
+    }
+
+    void operator()(const FillPrimitive& fill) const
+    {
+        const std::vector<POINT> corners = ToPoints(fill.corners);
+        CRgn region;
+        CBrush brush(ToColor(fill.color));
+        if (region.CreatePolygonRgn(corners.data(), static_cast<int>(corners.size()), WINDING))
+            dc.FillRgn(&region, &brush);
+    }
+
+    void operator()(const RectPrimitive& rect) const
+    {
+        CBrush brush(ToColor(rect.color));
+        const CRect area(rect.left, rect.top, rect.right, rect.bottom);
+        dc.FillRect(&area, &brush);
+    }
+
+    void operator()(const OutlinePrimitive& outline) const
+    {
+        const std::vector<POINT> points = ToPoints(outline.points);
+        dc.Polyline(points.data(), static_cast<int>(points.size()));
+    }
+};
+
+/// Pen, colours, alignment and position of a context, put back at the end of a scope.
+class ScopedState
+{
+public:
+    explicit ScopedState(CDC& dc) : m_dc(dc.GetSafeHdc()), m_saved(::SaveDC(m_dc)) {}
+    ~ScopedState() { ::RestoreDC(m_dc, m_saved); }
+    ScopedState(const ScopedState&) = delete;
+    ScopedState& operator=(const ScopedState&) = delete;
+
+private:
+    HDC m_dc;
+    int m_saved;
+};
+
+}  // namespace
+
+void PaintDisplayList(CDC& dc, const DisplayList& list)
+{
+    const ScopedState state(dc);
+    ::SelectObject(dc.GetSafeHdc(), ::GetStockObject(BLACK_PEN));
+    dc.SetBkMode(TRANSPARENT);
+    for (const Primitive& primitive : list.primitives)
+        std::visit(PrimitivePainter{dc}, primitive);
+}

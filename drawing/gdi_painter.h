@@ -1,0 +1,9 @@
+#pragma once
+
+#include <afxwin.h>
+
+struct DisplayList;
+
+/// Paints a drawing on a device context, primitive by primitive in its order: lines and outlines one pixel wide and
+/// black, texts with the context's font on whatever is below them. The context's own settings come back at the end.
+void PaintDisplayList(CDC& dc, const DisplayList& list);
