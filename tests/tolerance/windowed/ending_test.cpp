@@ -1,0 +1,136 @@
+#include "tolerance_dialog_test.h"
+
+namespace
+{
+
+template <class Controls>
+class Ending : public ToleranceDialogTest<Controls>
+{
+};
+using Dialogs = testing::Types<LinkDialog, ClosingDialog>;
+TYPED_TEST_SUITE(Ending, Dialogs, );
+
+constexpr int kEndedByHost = 5;
+
+TYPED_TEST(Ending, TellsTheHostOfCancelOnceAndEndsWithCancel)
+{
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kCancel); }});
+    EXPECT_EQ(result, IDCANCEL);
+    EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{kChildCancelled}));
+}
+
+TYPED_TEST(Ending, CancelsWithoutADimensionAlike)
+{
+    const INT_PTR result = this->Run({[this] { this->Click(TypeParam::kCancel); }});
+    EXPECT_EQ(result, IDCANCEL);
+    EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{kChildCancelled}));
+}
+
+TYPED_TEST(Ending, ResetsBeforeTheHostHearsOfCancel)
+{
+    CDimParams told = FreeDimension();
+    CString shown = L"25";
+    bool enabled = true;
+    bool pictured = true;
+    this->OnNotification([&](UINT) {
+        told = this->Record();
+        shown = this->Text(TypeParam::kNominal);
+        enabled = this->IsEnabled(TypeParam::kField);
+        pictured = this->IsShown(TypeParam::kPicture);
+    });
+    this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kCancel); }});
+    EXPECT_EQ(told, EmptyRecord());
+    EXPECT_EQ(shown, L"");
+    EXPECT_FALSE(enabled);
+    EXPECT_FALSE(pictured);
+}
+
+TYPED_TEST(Ending, CancelsByTheCloseBox)
+{
+    const INT_PTR result = this->RunLoaded(
+        FreeDimension(), {[this] { ::PostMessageW(this->dialog->m_hWnd, WM_SYSCOMMAND, SC_CLOSE, 0); }, [] {}});
+    EXPECT_EQ(result, IDCANCEL);
+    EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{kChildCancelled}));
+}
+
+TYPED_TEST(Ending, EndsWithTheHostsResultBetweenTwoActs)
+{
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] { this->dialog->EndDialog(kEndedByHost); }});
+    EXPECT_EQ(result, kEndedByHost);
+    EXPECT_TRUE(this->Codes().empty());
+}
+
+// The first result counts: the host gave it while it was told of the acceptance.
+TYPED_TEST(Ending, KeepsTheResultThatTheHostGaveWhileItWasToldOfOk)
+{
+    this->OnNotification([this](UINT) { this->dialog->EndDialog(kEndedByHost); });
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kOk); }});
+    EXPECT_EQ(result, kEndedByHost);
+    EXPECT_EQ(this->Record(), EmptyRecord()) << "the reset follows all the same";
+}
+
+TYPED_TEST(Ending, KeepsTheResultThatTheHostGaveWhileItWasToldOfCancel)
+{
+    this->OnNotification([this](UINT) { this->dialog->EndDialog(kEndedByHost); });
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kCancel); }});
+    EXPECT_EQ(result, kEndedByHost);
+}
+
+TYPED_TEST(Ending, EndsNormallyInTheRunAfterOneThatTheHostEnded)
+{
+    this->OnNotification([this](UINT) { this->dialog->EndDialog(kEndedByHost); });
+    this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kOk); }});
+    this->OnNotification([](UINT) {});
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kOk); }});
+    EXPECT_EQ(result, IDOK);
+}
+
+TYPED_TEST(Ending, ResetsTheRecordWhenTheHostDestroysTheWindow)
+{
+    this->OnNotification([this](UINT) { this->dialog->DestroyWindow(); });
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kOk); }});
+    EXPECT_NE(result, IDOK);
+    EXPECT_NE(result, kEndedByHost);
+    EXPECT_EQ(this->Record(), EmptyRecord());
+}
+
+TYPED_TEST(Ending, SurvivesThatTheHostDeletesTheDialogWhileItIsToldOfOk)
+{
+    this->OnNotification([this](UINT) {
+        this->dialog->DestroyWindow();
+        this->dialog.reset();
+    });
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kOk); }});
+    EXPECT_NE(result, IDOK);
+    EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{TypeParam::kAccepted}));
+}
+
+TYPED_TEST(Ending, SurvivesThatTheHostDeletesTheDialogWhileItIsToldOfCancel)
+{
+    this->OnNotification([this](UINT) { this->dialog.reset(); });
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kCancel); }});
+    EXPECT_NE(result, IDCANCEL);
+    EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{kChildCancelled}));
+}
+
+using LinkEnding = ToleranceDialogTest<LinkDialog>;
+
+TEST_F(LinkEnding, SurvivesThatTheHostDeletesTheDialogWhileItIsToldOfApply)
+{
+    OnNotification([this](UINT) {
+        dialog->DestroyWindow();
+        dialog.reset();
+    });
+    RunLoaded(FreeDimension(), {[this] { Click(IDC_LINK_APPLY); }});
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{kLinkApplied}));
+}
+
+TEST_F(LinkEnding, KeepsTheResultThatTheHostGaveWhileItWasToldOfApply)
+{
+    OnNotification([this](UINT) { dialog->EndDialog(kEndedByHost); });
+    const INT_PTR result = RunLoaded(FreeDimension(), {[this] { Click(IDC_LINK_APPLY); }});
+    EXPECT_EQ(result, kEndedByHost);
+    EXPECT_EQ(Record(), EmptyRecord());
+}
+
+}  // namespace

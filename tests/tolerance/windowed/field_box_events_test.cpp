@@ -1,0 +1,200 @@
+#include "tolerance_dialog_test.h"
+
+namespace
+{
+
+template <class Controls>
+class FieldBoxEvents : public ToleranceDialogTest<Controls>
+{
+};
+using Dialogs = testing::Types<LinkDialog, ClosingDialog>;
+TYPED_TEST_SUITE(FieldBoxEvents, Dialogs, );
+
+TYPED_TEST(FieldBoxEvents, AskTheLibraryForEveryTypedCharacter)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        this->Calls().clear();
+                        this->TypeField(L"k6");
+                        EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "k"}, {25.0F, "k6"}}));
+                        EXPECT_EQ(this->Record().tolField, L"k6");
+                    }});
+}
+
+TYPED_TEST(FieldBoxEvents, ShowAndLockTheDeviationsOfATypedKnownField)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        this->TypeField(L"k6");
+                        EXPECT_EQ(this->Text(TypeParam::kUpper), L"+0.015");
+                        EXPECT_EQ(this->Text(TypeParam::kLower), L"+0.002");
+                        EXPECT_FALSE(this->IsEnabled(TypeParam::kUpper));
+                        EXPECT_FALSE(this->IsEnabled(TypeParam::kLower));
+                    }});
+}
+
+TYPED_TEST(FieldBoxEvents, UnlockTheDeviationsOfATypedUnknownFieldAndKeepTheirTexts)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        this->TypeField(L"k6");
+                        this->TypeField(L"k66");
+                        EXPECT_EQ(this->Text(TypeParam::kUpper), L"+0.015");
+                        EXPECT_EQ(this->Text(TypeParam::kLower), L"+0.002");
+                        EXPECT_TRUE(this->IsEnabled(TypeParam::kUpper));
+                        EXPECT_TRUE(this->IsEnabled(TypeParam::kLower));
+                    }});
+}
+
+TYPED_TEST(FieldBoxEvents, TellCodesApartByCase)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        this->Calls().clear();
+                        this->TypeField(L"h7");
+                        EXPECT_EQ(this->Calls().back(), (DimTolCall{25.0F, "h7"}));
+                        EXPECT_TRUE(this->IsEnabled(TypeParam::kUpper));
+                    }});
+}
+
+// Entries: H6, H7, k6, k7.
+TYPED_TEST(FieldBoxEvents, AskTheLibraryOnceForAnEntryPickedWithTheMouse)
+{
+    this->RunLoaded(FreeDimension(), {[this] { this->DropDown(); },
+                                      [this] {
+                                          this->Calls().clear();
+                                          this->PostPick(1);
+                                      },
+                                      [this] {
+                                          EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "H7"}}));
+                                          EXPECT_EQ(this->Record().tolField, L"H7");
+                                          EXPECT_EQ(this->Text(TypeParam::kUpper), L"+0.021");
+                                          EXPECT_FALSE(this->IsEnabled(TypeParam::kUpper));
+                                      }});
+}
+
+TYPED_TEST(FieldBoxEvents, AskTheLibraryOnceForEachOfTwoPicks)
+{
+    this->RunLoaded(FreeDimension(),
+                    {[this] { this->DropDown(); },
+                     [this] {
+                         this->Calls().clear();
+                         this->PostPick(1);
+                     },
+                     [this] { this->DropDown(); }, [this] { this->PostPick(2); },
+                     [this] {
+                         EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "H7"}, {25.0F, "k6"}}));
+                     }});
+}
+
+TYPED_TEST(FieldBoxEvents, AskTheLibraryOnceForThePickOfTheEntryThatIsShown)
+{
+    this->RunLoaded(FittedDimension(), {[this] { this->DropDown(); },
+                                        [this] {
+                                            this->Calls().clear();
+                                            this->PostPick(1);
+                                        },
+                                        [this] {
+                                            EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "H7"}}));
+                                        }});
+}
+
+// Some systems send the edit change after the selection change.
+TYPED_TEST(FieldBoxEvents, AskTheLibraryOnceWhenTheEditChangeComesLast)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        const HWND box = this->Window(TypeParam::kField);
+                        this->Calls().clear();
+                        ::SendMessageW(box, CB_SETCURSEL, 2, 0);
+                        for (const int code : {CBN_SELCHANGE, CBN_EDITCHANGE})
+                            ::SendMessageW(this->dialog->m_hWnd, WM_COMMAND, MAKEWPARAM(TypeParam::kField, code),
+                                           reinterpret_cast<LPARAM>(box));
+                        EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "k6"}}));
+                    }});
+}
+
+// Some systems send a selection change alone.
+TYPED_TEST(FieldBoxEvents, TakeTheEntryOfALoneSelectionChange)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        const HWND box = this->Window(TypeParam::kField);
+                        ::SendMessageW(box, CB_SETCURSEL, 2, 0);
+                        ::SendMessageW(this->dialog->m_hWnd, WM_COMMAND, MAKEWPARAM(TypeParam::kField, CBN_SELCHANGE),
+                                       reinterpret_cast<LPARAM>(box));
+                        EXPECT_EQ(this->Record().tolField, L"k6");
+                        EXPECT_EQ(this->Text(TypeParam::kUpper), L"+0.015");
+                    }});
+}
+
+TYPED_TEST(FieldBoxEvents, IgnoreASelectionChangeWithoutASelection)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        const HWND box = this->Window(TypeParam::kField);
+                        this->Calls().clear();
+                        ASSERT_EQ(this->Selected(), CB_ERR);
+                        ::SendMessageW(this->dialog->m_hWnd, WM_COMMAND, MAKEWPARAM(TypeParam::kField, CBN_SELCHANGE),
+                                       reinterpret_cast<LPARAM>(box));
+                        EXPECT_EQ(this->Record().tolField, L"zz");
+                        EXPECT_TRUE(this->Calls().empty());
+                    }});
+}
+
+TYPED_TEST(FieldBoxEvents, ShowOnlyTheListedFieldsWithTheFilter)
+{
+    this->RunLoaded(FittedDimension(), {[this] {
+                        this->Click(TypeParam::kFilter);
+                        EXPECT_TRUE(this->IsChecked(TypeParam::kFilter));
+                        EXPECT_EQ(this->EntryCount(), 2);
+                        this->Click(TypeParam::kFilter);
+                        EXPECT_EQ(this->EntryCount(), 4);
+                    }});
+}
+
+TYPED_TEST(FieldBoxEvents, SelectTheTextAgainWhenTheFilterListsItAndAskOnce)
+{
+    this->RunLoaded(FittedDimension(), {[this] {
+                        this->Calls().clear();
+                        this->Click(TypeParam::kFilter);
+                        EXPECT_EQ(this->Selected(), 0);
+                        EXPECT_EQ(this->Record().tolField, L"H7");
+                        EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "H7"}}));
+                    }});
+}
+
+TYPED_TEST(FieldBoxEvents, KeepATextThatTheFilterDoesNotListAndDoNotAsk)
+{
+    CDimParams params = FreeDimension();
+    params.tolField = L"k7";
+    this->RunLoaded(params, {[this] {
+                        this->Calls().clear();
+                        this->Click(TypeParam::kFilter);
+                        EXPECT_EQ(this->Selected(), CB_ERR);
+                        EXPECT_EQ(this->Text(TypeParam::kField), L"k7");
+                        EXPECT_EQ(this->Record().tolField, L"k7");
+                        EXPECT_TRUE(this->Calls().empty());
+                    }});
+}
+
+TYPED_TEST(FieldBoxEvents, DropTheSelectionOfAnEntryThatTheFilterDoesNotList)
+{
+    this->RunLoaded(FreeDimension(), {[this] { this->DropDown(); }, [this] { this->PostPick(3); },
+                                      [this] {
+                                          ASSERT_EQ(this->Selected(), 3);
+                                          this->Click(TypeParam::kFilter);
+                                          EXPECT_EQ(this->Selected(), CB_ERR);
+                                          EXPECT_EQ(this->Text(TypeParam::kField), L"k7");
+                                          EXPECT_EQ(this->Record().tolField, L"k7");
+                                      }});
+}
+
+TYPED_TEST(FieldBoxEvents, LiveOnWhenTheFilterIsLiftedWithoutAShortList)
+{
+    const ExpectMessageBox report;
+    this->RunLoaded(FittedDimension(), {[this] { this->Click(TypeParam::kFilter); },
+                                        [this] {
+                                            TheGaugeBase().shortList.clear();
+                                            this->Click(TypeParam::kFilter);
+                                            EXPECT_EQ(this->EntryCount(), 0);
+                                            EXPECT_EQ(this->Text(TypeParam::kField), L"H7");
+                                            EXPECT_TRUE(::IsWindow(this->dialog->m_hWnd));
+                                        }});
+    EXPECT_TRUE(report.WasShown()) << "the framework reports the exception";
+}
+
+}  // namespace

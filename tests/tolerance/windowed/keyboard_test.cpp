@@ -1,0 +1,142 @@
+#include "tolerance_dialog_test.h"
+
+namespace
+{
+
+template <class Controls>
+class Keyboard : public ToleranceDialogTest<Controls>
+{
+protected:
+    /// As the user's Tab does it: the focused button becomes the one that Enter presses.
+    void FocusOn(int control) const
+    {
+        ::SendMessageW(this->dialog->m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(this->Window(control)), TRUE);
+    }
+
+    /// The control that has the focus; inside the box, the box.
+    int Focused() const
+    {
+        HWND window = ::GetFocus();
+        while (window != nullptr && ::GetParent(window) != this->dialog->m_hWnd)
+            window = ::GetParent(window);
+        return window == nullptr ? 0 : ::GetDlgCtrlID(window);
+    }
+
+    /// Where the focus goes from `first` on with each Tab.
+    std::vector<int> TabOrder(int first, std::size_t count)
+    {
+        std::vector<int> order;
+        std::vector<ModalScript::Step> steps{[this, first] { FocusOn(first); }};
+        for (std::size_t i = 0; i < count; ++i)
+            steps.push_back([this, &order] {
+                order.push_back(Focused());
+                PostKey(::GetFocus(), VK_TAB);
+            });
+        this->RunLoaded(FreeDimension(), steps);
+        return order;
+    }
+};
+using Dialogs = testing::Types<LinkDialog, ClosingDialog>;
+TYPED_TEST_SUITE(Keyboard, Dialogs, );
+using LinkKeyboard = Keyboard<LinkDialog>;
+using ClosingKeyboard = Keyboard<ClosingDialog>;
+
+TYPED_TEST(Keyboard, AcceptsByEnterInADeviation)
+{
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] {
+                                                                 this->FocusOn(TypeParam::kUpper);
+                                                                 PostKey(::GetFocus(), VK_RETURN);
+                                                             },
+                                                             [] {}});
+    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{TypeParam::kAccepted}));
+}
+
+TYPED_TEST(Keyboard, AcceptsByEnterInTheFieldBox)
+{
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] {
+                                                                 ::SetFocus(this->FieldEdit());
+                                                                 PostKey(::GetFocus(), VK_RETURN);
+                                                             },
+                                                             [] {}});
+    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{TypeParam::kAccepted}));
+}
+
+TYPED_TEST(Keyboard, CancelsByEscInADeviation)
+{
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] {
+                                                                 this->FocusOn(TypeParam::kLower);
+                                                                 PostKey(::GetFocus(), VK_ESCAPE);
+                                                             },
+                                                             [] {}});
+    EXPECT_EQ(result, IDCANCEL);
+    EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{kChildCancelled}));
+}
+
+TYPED_TEST(Keyboard, CancelsByEnterOnTheCancelButton)
+{
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] {
+                                                                 this->FocusOn(TypeParam::kCancel);
+                                                                 PostKey(::GetFocus(), VK_RETURN);
+                                                             },
+                                                             [] {}});
+    EXPECT_EQ(result, IDCANCEL);
+}
+
+TEST_F(LinkKeyboard, WalksTheControlsAsTheyStand)
+{
+    EXPECT_EQ(
+        TabOrder(IDC_LINK_NAME, 10),
+        (std::vector<int>{IDC_LINK_NAME, IDC_LINK_DIRECTION, IDC_LINK_FIELD, IDC_LINK_FILTER, IDC_LINK_UPPER_DEV,
+                          IDC_LINK_LOWER_DEV, IDC_LINK_WEIGHT_FIXED, IDC_LINK_APPLY, IDC_LINK_OK, IDC_LINK_CANCEL}));
+}
+
+TEST_F(ClosingKeyboard, WalksTheControlsAsTheyStand)
+{
+    EXPECT_EQ(TabOrder(IDC_CLOSING_FIELD, 6),
+              (std::vector<int>{IDC_CLOSING_FIELD, IDC_CLOSING_FILTER, IDC_CLOSING_UPPER_DEV, IDC_CLOSING_LOWER_DEV,
+                                IDC_CLOSING_OK, IDC_CLOSING_CANCEL}));
+}
+
+// The button that was pressed is disabled: without another focus no key would reach the dialog.
+TEST_F(LinkKeyboard, KeepsTheKeyboardInTheDialogAfterApply)
+{
+    RunLoaded(FreeDimension(), {[this] {
+                  FocusOn(IDC_LINK_APPLY);
+                  Click(IDC_LINK_APPLY);
+                  EXPECT_EQ(Focused(), IDC_LINK_OK);
+              }});
+}
+
+TYPED_TEST(Keyboard, KeepsTheKeyboardInTheDialogWhenKindTwoDisablesTheFocusedControl)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        ::SetFocus(this->FieldEdit());
+                        CDimParams params = FreeDimension();
+                        params.dimKind = 2;
+                        this->Load(params);
+                        EXPECT_EQ(this->Focused(), TypeParam::kOk);
+                    }});
+}
+
+TYPED_TEST(Keyboard, LeavesTheFocusWhereItIsWhenADimensionIsLoaded)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        this->FocusOn(TypeParam::kLower);
+                        this->Load(FreeDimension());
+                        EXPECT_EQ(this->Focused(), TypeParam::kLower);
+                    }});
+}
+
+TYPED_TEST(Keyboard, DoesNotTakeTheFocusFromTheHost)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        ::SetActiveWindow(this->host.m_hWnd);
+                        ::SetFocus(this->host.m_hWnd);
+                        this->Load(FittedDimension());
+                        EXPECT_EQ(::GetFocus(), this->host.m_hWnd);
+                    }});
+}
+
+}  // namespace
