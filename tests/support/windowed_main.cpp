@@ -27,7 +27,7 @@ int main(int argc, char** argv)
 {
     if (!EnterPrivateDesktop())
     {
-        std::fprintf(stderr, "no desktop for the test windows (error %lu)\n", ::GetLastError());
+        std::fprintf(stderr, "no windows can be created for the tests: is there a display?\n");
         return 1;
     }
     testing::InitGoogleTest(&argc, argv);

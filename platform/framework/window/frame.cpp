@@ -12,7 +12,7 @@ END_MESSAGE_MAP()
 CFrameWnd::CFrameWnd() = default;
 CFrameWnd::~CFrameWnd() = default;
 
-const RECT kDefaultFrameRect = {CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};
+const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
 
 BOOL CFrameWnd::Create(LPCWSTR className, LPCWSTR title, DWORD style, const RECT& rect, CWnd* parent, LPCWSTR menuName,
                        DWORD exStyle)
@@ -47,7 +47,7 @@ BOOL CFrameWnd::LoadFrame(UINT id, DWORD style, CWnd* parent)
     title.LoadString(id);
     const HINSTANCE menuModule = AfxFindResourceHandle(name, RT_MENU);
     const LPCWSTR menuName = ::FindResourceW(menuModule, name, RT_MENU) == nullptr ? nullptr : name;
-    if (!Create(frameClass, title, style, kDefaultFrameRect, parent, menuName))
+    if (!Create(frameClass, title, style, rectDefault, parent, menuName))
         return FALSE;
     if (m_hAccelTable == nullptr)
         LoadAccelTable(name);

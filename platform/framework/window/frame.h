@@ -2,22 +2,21 @@
 
 #include "window/wnd.h"
 
-/// Shows a frame in the default place and size.
-FRAMEWORK_API extern const RECT kDefaultFrameRect;
-
 /// A top-level window with a menu and accelerators. It is made with new and deletes itself with its window.
 class FRAMEWORK_API CFrameWnd : public CWnd
 {
     DECLARE_DYNCREATE(CFrameWnd)
 
 public:
+    static const CRect rectDefault;  ///< for Create: Windows chooses place and size
+
     CFrameWnd();
     ~CFrameWnd() override;
 
     /// @param className  null for a plain frame class
     /// @param menuName   menu resource, of the current resource module; null for none
     virtual BOOL Create(LPCWSTR className, LPCWSTR title, DWORD style = WS_OVERLAPPEDWINDOW,
-                        const RECT& rect = kDefaultFrameRect, CWnd* parent = nullptr, LPCWSTR menuName = nullptr,
+                        const RECT& rect = rectDefault, CWnd* parent = nullptr, LPCWSTR menuName = nullptr,
                         DWORD exStyle = 0);
     /// Creates the frame with the menu, accelerators, icon and title string of that number, each when it exists.
     virtual BOOL LoadFrame(UINT id, DWORD style = WS_OVERLAPPEDWINDOW, CWnd* parent = nullptr);

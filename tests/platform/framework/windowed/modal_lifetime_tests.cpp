@@ -1,0 +1,123 @@
+#include <functional>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include <afxwin.h>
+
+#include "tests/platform/framework/windowed/window_resources.h"
+#include "tests/support/framework_printers.h"
+#include "tests/support/planned_actions.h"
+#include "tests/support/recording_window.h"
+
+namespace
+{
+class CShortDialog : public CDialog
+{
+public:
+    explicit CShortDialog(CWnd* parent) : CDialog(IDD_PLAIN, parent) {}
+
+    std::function<void()> m_onOk;
+
+protected:
+    void OnOK() override
+    {
+        if (m_onOk)
+            m_onOk();
+        else
+            CDialog::OnOK();
+    }
+};
+
+std::function<bool()> IsShown(const CDialog& dialog)
+{
+    return [&dialog] { return dialog.m_hWnd != nullptr && dialog.IsWindowVisible(); };
+}
+}  // namespace
+
+TEST(ModalDialogLifetime, WindowDestroyedFromOutsideGivesMinusOne)
+{
+    RecordingWindow owner;
+    CShortDialog dialog(&owner);
+    DoWhen(IsShown(dialog), [&dialog] { ::DestroyWindow(dialog); });
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
+}
+
+TEST(ModalDialogLifetime, WindowDestroyedAfterEndDialogGivesMinusOneToo)
+{
+    RecordingWindow owner;
+    CShortDialog dialog(&owner);
+    DoWhen(IsShown(dialog), [&dialog] {
+        dialog.EndDialog(IDOK);
+        ::DestroyWindow(dialog);
+    });
+    EXPECT_EQ(dialog.DoModal(), -1);
+}
+
+TEST(ModalDialogLifetime, OwnerDestroyedWithTheDialogGivesMinusOne)
+{
+    RecordingWindow main;
+    auto owner = std::make_unique<RecordingWindow>(300, 200, &main);
+    CShortDialog dialog(owner.get());
+    DoWhen(IsShown(dialog), [&owner] { owner.reset(); });
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_TRUE(main.IsWindowEnabled());
+}
+
+TEST(ModalDialogLifetime, ObjectMayBeDeletedWhileTheLoopRuns)
+{
+    RecordingWindow owner;
+    auto* dialog = new CShortDialog(&owner);
+    DoWhen(IsShown(*dialog), [dialog] { delete dialog; });
+    EXPECT_EQ(dialog->DoModal(), -1);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST(ModalDialogLifetime, ObjectMayBeDeletedByItsOwnHandler)
+{
+    RecordingWindow owner;
+    auto* dialog = new CShortDialog(&owner);
+    dialog->m_onOk = [dialog] {
+        CShortDialog* gone = dialog;  // the function object goes with the dialog
+        delete gone;
+    };
+    DoWhen(IsShown(*dialog), [dialog] { dialog->PostMessage(WM_COMMAND, IDOK); });
+    EXPECT_EQ(dialog->DoModal(), -1);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST(ModalDialogLifetime, QuitEndsAllLoopsAndReachesTheOutermostOne)
+{
+    RecordingWindow owner;
+    CShortDialog outer(&owner);
+    CShortDialog inner(&outer);
+    INT_PTR innerResult = 0;
+    outer.m_onOk = [&] { innerResult = inner.DoModal(); };
+    DoWhen(IsShown(outer), [&outer] { outer.PostMessage(WM_COMMAND, IDOK); });
+    DoWhen(IsShown(inner), [] { AfxPostQuitMessage(6); });
+    EXPECT_EQ(outer.DoModal(), -1);
+    EXPECT_EQ(innerResult, -1);
+    MSG message = {};
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) && message.message != WM_QUIT)
+        ::DispatchMessageW(&message);
+    EXPECT_EQ(message.message, static_cast<UINT>(WM_QUIT));
+    EXPECT_EQ(message.wParam, 6u);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST(ModalDialogLifetime, TemporaryObjectsFromBeforeTheLoopLiveThroughIt)
+{
+    RecordingWindow owner;
+    const HWND foreign =
+        ::CreateWindowExW(0, L"Edit", L"kept", WS_CHILD, 0, 0, 10, 10, owner, nullptr, nullptr, nullptr);
+    CWnd* temporary = CWnd::FromHandle(foreign);
+    CShortDialog dialog(&owner);
+    DoWhen(IsShown(dialog), [&dialog] { DoLater([&dialog] { dialog.EndDialog(1); }); });
+    dialog.DoModal();
+    CString text;
+    temporary->GetWindowText(text);
+    EXPECT_EQ(text, CString(L"kept"));
+    EXPECT_EQ(CWnd::FromHandle(foreign), temporary);
+}
