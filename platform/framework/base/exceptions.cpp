@@ -1,5 +1,6 @@
 #include "base/exceptions.h"
 
+#include "application/message_box.h"
 #include "base/messages.h"
 #include "base/resource_lookup.h"
 
@@ -61,7 +62,7 @@ int CException::ReportError(UINT type, UINT messageId)
         if (messageId == 0 || AfxLoadString(messageId, message, kMessageCapacity) == 0)
             LoadOwnMessage(AFX_IDS_NO_MESSAGE, message, kMessageCapacity);
     }
-    return ::MessageBoxW(::GetActiveWindow(), message, nullptr, type);  // without a title Windows writes "Error"
+    return AfxMessageBox(message, type);
 }
 
 CSimpleException::CSimpleException(BOOL autoDelete, UINT messageId) : CException(autoDelete), m_messageId(messageId) {}

@@ -129,6 +129,21 @@ TEST(WindowException, WindowThatThrowsInItsPaintingIsNotPaintedForEver)
     window.m_inPaint = Thrown::nothing;
 }
 
+TEST(WindowException, ReportBelongsToTheActiveWindowAndDisablesTheWindowsAboveIt)
+{
+    RecordingWindow main;
+    RecordingWindow dialog(300, 200, &main);
+    dialog.SetActiveWindow();
+    bool mainMeanwhile = true;
+    ExpectMessageBox box;
+    box.WhileShown([&] { mainMeanwhile = main.IsWindowEnabled(); });
+    CNotSupportedException(FALSE).ReportError();
+    EXPECT_EQ(box.Owner(), dialog.m_hWnd);
+    EXPECT_EQ(box.Caption(), L"framework_windowed_tests");
+    EXPECT_FALSE(mainMeanwhile);
+    EXPECT_TRUE(main.IsWindowEnabled());
+}
+
 // AfxGetThread is the application object as soon as there is one.
 TEST(WindowException, ApplicationMayDealWithItItself)
 {
