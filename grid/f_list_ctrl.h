@@ -165,8 +165,10 @@ private:
     int IndexBehind(const CFListRow& row) const;
     void ShowRow(CFListRow& row, int index);
     void ShowChildren(CFListRow& row);
+    void MakeRowsVisible(int first, int last);
     void HideRow(CFListRow& row);
-    void HideChildren(CFListRow& row);
+    void HideBranch(CFListRow& row, int& last);
+    void HideChildren(CFListRow& row, int& last);
     void HandFocusOver(const CFListRow& deleted);
     void Forget(CFListRow& row);
     void RedrawRow(const CFListRow& row);

@@ -200,24 +200,44 @@ void CFListCtrl::ShowChildren(CFListRow& row)
         ShowRow(*child, ++index);
 }
 
+// The last row, then the first, in one step: each would make the list scroll and paint.
+void CFListCtrl::MakeRowsVisible(int first, int last)
+{
+    const int top = GetTopIndex();
+    const int wanted = TopRowToShow(top, GetCountPerPage(), first, last);
+    if (wanted == top)
+        return;
+    CRect row;
+    GetItemRect(top, &row, LVIR_BOUNDS);
+    Scroll(CSize(0, (wanted - top) * row.Height()));
+}
+
 // Takes the row and what is shown below it out of the list.
 void CFListCtrl::HideRow(CFListRow& row)
 {
-    if (!IsShown(row))
-        return;
-    HideChildren(row);
-    const int index = row.ListIndex();
-    m_exactIndices = std::min(m_exactIndices, index);
-    row.m_listIndex = -1;
-    DeleteItem(index);
+    if (IsShown(row))
+    {
+        int last = IndexBehind(row) - 1;
+        HideBranch(row, last);
+    }
 }
 
-// From the last one up, so that the rows still to be removed keep their indices.
-void CFListCtrl::HideChildren(CFListRow& row)
+// From the last row up, so that the rows still to be removed keep their indices.
+// @param last  list index of the last shown row below this one; afterwards of the row before the removed ones
+void CFListCtrl::HideBranch(CFListRow& row, int& last)
+{
+    if (row.IsExpanded())
+        HideChildren(row, last);
+    m_exactIndices = std::min(m_exactIndices, last);
+    DeleteItem(last--);  // the list tells its parent first: until then the row knows its place
+    row.m_listIndex = -1;
+}
+
+void CFListCtrl::HideChildren(CFListRow& row, int& last)
 {
     row.m_collapsed = 1;
     for (CFListRow* child = row.LastChild(); child != nullptr; child = child->PreviousSibling())
-        HideRow(*child);
+        HideBranch(*child, last);
 }
 
 void CFListCtrl::ExpandRow(RowKey key)
@@ -233,8 +253,7 @@ void CFListCtrl::ExpandRow(RowKey key)
         const NotificationLock lock(*this);
         row->m_collapsed = 0;
         ShowChildren(*row);
-        EnsureVisible(row->LastChild()->ListIndex(), FALSE);
-        EnsureVisible(row->ListIndex(), FALSE);
+        MakeRowsVisible(row->ListIndex(), row->LastChild()->ListIndex());
         SetFocusCell(m_focusKey, m_focusColumn, true);
     }
     Notify(kGridRowExpanded, row, m_focusColumn, CellText(row, m_focusColumn));
@@ -255,7 +274,8 @@ void CFListCtrl::CollapseRow(RowKey key)
     {
         const NotificationLock lock(*this);
         const PaintingPause pause(*this);
-        HideChildren(*row);
+        int last = IndexBehind(*row) - 1;
+        HideChildren(*row, last);
     }
     Notify(kGridRowCollapsed, row, m_focusColumn, CellText(row, m_focusColumn));
     if (focusRemoved)

@@ -75,3 +75,8 @@ GridPlace PlaceAfter(GridPlace from, GridMove move, const GridExtent& extent)
         return from;
     }
 }
+
+int TopRowToShow(int top, int rowsPerPage, int first, int last)
+{
+    return std::min(std::max(top, last - rowsPerPage + 1), first);
+}

@@ -35,3 +35,7 @@ struct GridExtent
 
 /// The place that a move leads to; `from` itself where it leads nowhere. From no row every move leads to the first one.
 GridPlace PlaceAfter(GridPlace from, GridMove move, const GridExtent& extent);
+
+/// The row to stand at the top so that the row `last` is visible, and then, even if `last` has to go again, the row
+/// `first` above it; `top` when it is so already.
+int TopRowToShow(int top, int rowsPerPage, int first, int last);

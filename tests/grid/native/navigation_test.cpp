@@ -98,3 +98,26 @@ TEST(Navigation, EmptyGridLeadsNowhere)
     EXPECT_EQ(PlaceAfter({-1, -1}, GridMove::Down, {.rows = 0, .columns = 3}), (GridPlace{-1, -1}));
     EXPECT_EQ(PlaceAfter({-1, -1}, GridMove::Down, {.rows = 3, .columns = 0}), (GridPlace{-1, -1}));
 }
+
+TEST(TopRowToShow, RowsInSightDoNotScroll)
+{
+    EXPECT_EQ(TopRowToShow(5, 10, 5, 14), 5);
+    EXPECT_EQ(TopRowToShow(0, 10, 3, 7), 0);
+}
+
+// Ten rows from 8 on end with 17.
+TEST(TopRowToShow, LastRowComesToTheBottom)
+{
+    EXPECT_EQ(TopRowToShow(5, 10, 9, 17), 8);
+}
+
+TEST(TopRowToShow, FirstRowWinsWhenNotAllFit)
+{
+    EXPECT_EQ(TopRowToShow(5, 10, 9, 10'000), 9);
+    EXPECT_EQ(TopRowToShow(0, 10, 0, 10'000), 0);
+}
+
+TEST(TopRowToShow, RowsAboveComeToTheTop)
+{
+    EXPECT_EQ(TopRowToShow(5, 10, 2, 4), 2);
+}

@@ -159,8 +159,8 @@ TEST_F(GridTree, RowEmptiedWhileExpandedIsCollapsedWithItsParent)
     EXPECT_EQ(window.ShownNames(), "T A Az B U");
 }
 
-// The list control tells of each inserted row: the parent may ask for indices right then.
-TEST_F(GridTree, IndicesAreExactAtEveryMomentOfAnExpansion)
+// The list control tells of each inserted and deleted row: the parent may ask for indices right then.
+TEST_F(GridTree, IndicesAreExactAtEveryMomentOfExpandingAndCollapsing)
 {
     class Observer : public GridWindow
     {
@@ -171,7 +171,8 @@ TEST_F(GridTree, IndicesAreExactAtEveryMomentOfAnExpansion)
     protected:
         BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override
         {
-            if (reinterpret_cast<NMHDR*>(lParam)->code == LVN_INSERTITEM)
+            const UINT code = reinterpret_cast<NMHDR*>(lParam)->code;
+            if (code == LVN_INSERTITEM || code == LVN_DELETEITEM)
             {
                 ++observed;
                 exact = exact && IndicesAreExact();
@@ -188,6 +189,8 @@ TEST_F(GridTree, IndicesAreExactAtEveryMomentOfAnExpansion)
     observer.observed = 0;
     observer.grid.ExpandRow(top);
     EXPECT_EQ(observer.observed, 5);
+    observer.grid.CollapseRow(top);
+    EXPECT_EQ(observer.observed, 10);
     EXPECT_TRUE(observer.exact);
 }
 
