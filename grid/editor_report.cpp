@@ -23,7 +23,7 @@ void ReportEnd(CWnd& editor, const EditedCell& cell, UINT code, std::int32_t ext
     grid->SendMessage(WM_NOTIFY, report.hdr.idFrom, reinterpret_cast<LPARAM>(&report));
 }
 
-void GrowToText(CWnd& editor)
+bool GrowToText(CWnd& editor)
 {
     CWnd* const grid = editor.GetParent();
     CString text;
@@ -41,7 +41,9 @@ void GrowToText(CWnd& editor)
     CRect limits;
     grid->GetClientRect(&limits);
     const int width = GrownWidth(place.left, client.Width(), textWidth, limits.right);
-    if (width > client.Width())
-        editor.SetWindowPos(nullptr, 0, 0, place.Width() + width - client.Width(), place.Height(),
-                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    if (width <= client.Width())
+        return false;
+    editor.SetWindowPos(nullptr, 0, 0, place.Width() + width - client.Width(), place.Height(),
+                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return true;
 }

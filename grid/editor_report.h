@@ -23,4 +23,5 @@ void EndByKey(CWnd& editor, EditedCell& cell, UINT key);
 void ReportEnd(CWnd& editor, const EditedCell& cell, UINT code, std::int32_t extra);
 
 /// Widens the editor when its text has outgrown it, up to the right edge of the grid.
-void GrowToText(CWnd& editor);
+/// @return  whether it became wider
+bool GrowToText(CWnd& editor);

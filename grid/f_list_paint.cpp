@@ -6,6 +6,7 @@ namespace
 {
 constexpr int kExpandedImage = 0;
 constexpr int kCollapsedImage = 1;
+constexpr int kFrameInset = 2;  // keeps a drawn check box clear of the grid line before it
 constexpr UINT kTextFormat = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_EXTERNALLEADING;
 
 /// Puts clipping, font and colours of a DC back at the end of a scope.
@@ -41,7 +42,7 @@ void DrawCheckBox(CDC& dc, HIMAGELIST images, const CFListCtrl::CFListItem& item
     }
     const int side = std::min<int>(kCheckBoxSide, cell.Height());
     const int top = cell.top + (cell.Height() - side) / 2;
-    CRect box(left, top, left + side, top + side);
+    CRect box(left + kFrameInset, top, left + kFrameInset + side, top + side);
     dc.DrawFrameControl(&box, DFC_BUTTON, DFCS_BUTTONCHECK | DFCS_FLAT | (checked ? DFCS_CHECKED : 0U));
 }
 }  // namespace

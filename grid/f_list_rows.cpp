@@ -283,10 +283,18 @@ void CFListCtrl::CollapseRow(RowKey key)
     RedrawRow(key);
 }
 
+// From edge to edge: the list's own way of redrawing an item may leave out the space before its first image.
 void CFListCtrl::RedrawRow(const CFListRow& row)
 {
-    if (IsShown(row))
-        RedrawItems(row.ListIndex(), row.ListIndex());
+    if (!IsShown(row))
+        return;
+    CRect place;
+    GetItemRect(row.ListIndex(), &place, LVIR_BOUNDS);
+    CRect client;
+    GetClientRect(&client);
+    place.left = client.left;
+    place.right = client.right;
+    InvalidateRect(&place, FALSE);
 }
 
 void CFListCtrl::RedrawRow(RowKey key)

@@ -2,6 +2,8 @@
 
 namespace
 {
+constexpr UINT kMargin = 2;  // beside the text, pixels: both fit into the 5 that a grown edit is wider than its text
+
 bool Ends(UINT key)
 {
     switch (key)
@@ -43,6 +45,7 @@ int CInPlaceEdit::OnCreate(LPCREATESTRUCT create)
     if (CEdit::OnCreate(create) == -1)
         return -1;
     SetFont(GetParent()->GetFont());
+    SetMargins(kMargin, kMargin);
     SetWindowText(m_initialText);
     if (m_selectAll)
         SetSel(0, -1);
@@ -83,5 +86,12 @@ void CInPlaceEdit::OnKeyDown(UINT key, UINT repeat, UINT flags)
 void CInPlaceEdit::OnChar(UINT character, UINT repeat, UINT flags)
 {
     CEdit::OnChar(character, repeat, flags);
-    GrowToText(*this);
+    if (!GrowToText(*this))
+        return;
+    // The text was scrolled to the caret while the edit was narrower: show its beginning again where it fits now.
+    int start = 0;
+    int end = 0;
+    GetSel(start, end);
+    SetSel(0, 0);
+    SetSel(start, end);
 }

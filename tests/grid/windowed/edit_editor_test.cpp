@@ -279,6 +279,15 @@ TEST_F(EditEditor, LongTextWidensItToTheGridsRightEdgeAndNoFurther)
     EXPECT_EQ(grown.right, client.right);
 }
 
+TEST_F(EditEditor, WholeTextIsInSightAsLongAsItGrows)
+{
+    PressKey(VK_RETURN);
+    TypeText(L"0123456789012345");
+    const auto first = ::SendMessageW(Edit(), EM_POSFROMCHAR, 0, 0);
+    EXPECT_GE(static_cast<short>(LOWORD(first)), 0);
+    EXPECT_EQ(::SendMessageW(Edit(), EM_GETSEL, 0, 0), MAKELONG(16, 16));
+}
+
 TEST_F(EditEditor, ShorterTextLeavesItsWidth)
 {
     PressKey(VK_RETURN);

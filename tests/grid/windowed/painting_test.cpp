@@ -118,7 +118,8 @@ TEST_F(GridPainting, MovedFocusLeavesNoTrace)
     Paint();
     grid.SetFocusCell(t, 2, false);
     EXPECT_EQ(Middle(u, 1, 3), window_);
-    EXPECT_EQ(Middle(u, 0, 100), window_);
+    for (const int x : {0, 1, 2, 100})
+        EXPECT_EQ(Middle(u, 0, x), window_) << x;
     EXPECT_EQ(Middle(t, 2, 70), kFocusColour);
 }
 
@@ -214,8 +215,7 @@ TEST_F(GridPainting, CheckBoxIsAFrameUnlessItHasImages)
     grid.SetCellText(u, 1, L"");
     grid.SetCellKind(u, 1, kCellCheckBox);
     const int unchecked = InkOf(u, 1, window_);
-    EXPECT_GT(unchecked, 0);
-    EXPECT_LT(TextSpan(u, 1, window_).second, 20);
+    EXPECT_EQ(TextSpan(u, 1, window_), (std::pair{2, 17}));
     grid.SetCellChecked(u, 1, true);
     EXPECT_GT(InkOf(u, 1, window_), unchecked);
 }
