@@ -1,3 +1,5 @@
+#include "tests/support/message_pump.h"
+#include "tests/support/resource_count.h"
 #include "tolerance_dialog_test.h"
 
 namespace
@@ -111,6 +113,53 @@ TYPED_TEST(Ending, SurvivesThatTheHostDeletesTheDialogWhileItIsToldOfCancel)
     const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kCancel); }});
     EXPECT_NE(result, IDCANCEL);
     EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{kChildCancelled}));
+}
+
+TYPED_TEST(Ending, KeepsTheResultThatTheHostGaveWhileAMessageWasShown)
+{
+    ExpectMessageBox box;
+    box.WhileShown([this] { this->dialog->EndDialog(kEndedByHost); });
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] {
+                                               this->Write(TypeParam::kUpper, L"x");
+                                               this->Click(TypeParam::kOk);
+                                           }});
+    EXPECT_EQ(result, kEndedByHost);
+    EXPECT_TRUE(this->Codes().empty());
+}
+
+TYPED_TEST(Ending, SurvivesThatTheHostDeletesTheDialogWhileAMessageIsShown)
+{
+    ExpectMessageBox box;
+    box.WhileShown([this] { this->dialog.reset(); });
+    this->RunLoaded(FreeDimension(), {[this] {
+                        this->Write(TypeParam::kUpper, L"x");
+                        this->Click(TypeParam::kOk);
+                    }});
+    EXPECT_EQ(this->dialog, nullptr);
+    EXPECT_TRUE(this->Codes().empty());
+}
+
+// The first rounds fill the system's and the framework's caches.
+TYPED_TEST(Ending, LeavesNothingBehind)
+{
+    const auto round = [this] {
+        this->dialog = std::make_unique<typename TypeParam::Dialog>(&this->host);
+        this->RunLoaded(FittedDimension(),
+                        {[this] { this->Click(TypeParam::kFilter); }, [this] { this->Click(TypeParam::kOk); }});
+        this->dialog.reset();
+        this->host.Forget();
+        TheGaugeBase().calls = {};
+        PumpUntilIdle();
+        AfxGetThread()->OnIdle(0);  // the end of temporary objects
+    };
+    for (int i = 0; i < 3; ++i)
+        round();
+    const int gdiObjects = GdiObjectCount();
+    const std::size_t heapBlocks = HeapBlockCount();
+    for (int i = 0; i < 5; ++i)
+        round();
+    EXPECT_EQ(GdiObjectCount(), gdiObjects);
+    EXPECT_EQ(HeapBlockCount(), heapBlocks);
 }
 
 using LinkEnding = ToleranceDialogTest<LinkDialog>;
