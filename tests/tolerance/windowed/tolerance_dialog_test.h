@@ -14,6 +14,7 @@
 #include "modal_script.h"
 #include "platform/moduleskin/module_skin.h"
 #include "platform/moduleskin/resource.h"
+#include "released_pages.h"
 #include "tests/support/framework_printers.h"
 #include "tests/support/input.h"
 #include "tests/support/message_box_guard.h"
@@ -116,7 +117,7 @@ class ToleranceDialogTest : public testing::Test
 protected:
     using Dialog = typename Controls::Dialog;
 
-    ToleranceDialogTest() : dialog(std::make_unique<Dialog>(&host))
+    ToleranceDialogTest() : dialog(std::make_unique<OnReleasedPages<Dialog>>(&host))
     {
         FakeGaugeBase& library = TheGaugeBase();
         library = FakeGaugeBase{};
