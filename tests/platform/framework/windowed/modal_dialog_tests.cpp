@@ -104,6 +104,20 @@ TEST(ModalDialog, LastEndDialogBeforeTheEndDecides)
     EXPECT_EQ(dialog.DoModal(), IDOK);
 }
 
+TEST(ModalDialog, ContinuesUntilItIsEnded)
+{
+    RecordingWindow owner;
+    CPlainDialog dialog(&owner);
+    EXPECT_FALSE(dialog.ContinueModal());
+    DoWhen(IsShown(dialog), [&dialog] {
+        EXPECT_TRUE(dialog.ContinueModal());
+        dialog.EndDialog(7);
+        EXPECT_FALSE(dialog.ContinueModal());
+    });
+    dialog.DoModal();
+    EXPECT_FALSE(dialog.ContinueModal());
+}
+
 TEST(ModalDialog, EndedDuringInitialisationItIsNeverShown)
 {
     RecordingWindow owner;
