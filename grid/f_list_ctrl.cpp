@@ -20,6 +20,7 @@ BEGIN_MESSAGE_MAP(CFListCtrl, CListCtrlWithCustomDraw)
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONDBLCLK()
     ON_WM_RBUTTONDOWN()
+    ON_WM_CONTEXTMENU()
     // editors
     ON_NOTIFY_REFLECT(kGridEditClosed, &CFListCtrl::OnEditClosed)
     ON_NOTIFY_REFLECT(kGridListClosed, &CFListCtrl::OnListClosed)
@@ -78,6 +79,16 @@ BOOL CFListCtrl::OnMouseWheel(UINT flags, short distance, CPoint screenPoint)
 {
     CloseEditor();
     return CListCtrlWithCustomDraw::OnMouseWheel(flags, distance, screenPoint);
+}
+
+// Columns that change their width or their order move the cells too.
+BOOL CFListCtrl::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
+    const bool columnsMove = header.code == HDN_ITEMCHANGING || header.code == HDN_BEGINDRAG;
+    if (columnsMove && header.hwndFrom == ListView_GetHeader(m_hWnd))
+        CloseEditor();
+    return CListCtrlWithCustomDraw::OnNotify(wParam, lParam, result);
 }
 
 void CFListCtrl::TakeFocus()

@@ -121,6 +121,7 @@ protected:
     bool PaintSubItem(CDC& dc, int item, int subItem, UINT state, LPARAM itemData) override;
 
     void PreSubclassWindow() override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
     // window
     afx_msg int OnCreate(LPCREATESTRUCT create);
@@ -136,6 +137,7 @@ protected:
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    afx_msg void OnContextMenu(CWnd* wnd, CPoint screenPoint);
     // editors
     afx_msg void OnEditClosed(NMHDR* header, LRESULT* result);
     afx_msg void OnListClosed(NMHDR* header, LRESULT* result);
@@ -199,6 +201,7 @@ private:
         Cell
     };
     ClickResult Click(CPoint point);
+    void AskForMenu(CPoint point);
     // editors
     bool OpenEditor(std::optional<TCHAR> typed);
     bool OpenEdit(RowKey key, int column, std::optional<TCHAR> typed);

@@ -63,10 +63,29 @@ void CFListCtrl::OnRButtonDown(UINT flags, CPoint point)
     }
     SetFocusRow(RowAtIndex(hit->index)->Key(), true);
     TakeFocus();
+    AskForMenu(point);
+}
+
+// The menu key and Shift+F10 give no point: the menu belongs below the focus cell then. The mouse's menu has been shown
+// when the button went down.
+void CFListCtrl::OnContextMenu(CWnd* wnd, CPoint screenPoint)
+{
+    const bool byKeyboard = screenPoint == CPoint(-1, -1);
+    if (!byKeyboard || FocusRow() == nullptr)
+    {
+        CListCtrlWithCustomDraw::OnContextMenu(wnd, screenPoint);
+        return;
+    }
+    MakeCellVisible(m_focusKey, m_focusColumn, false);
+    const CRect cell = GetCellRect(m_focusKey, m_rowMode ? 0 : m_focusColumn);
+    AskForMenu(CPoint(cell.left, cell.bottom));
+}
+
+void CFListCtrl::AskForMenu(CPoint point)
+{
     if (auto* const parent = dynamic_cast<GridEditMenuParent*>(GetParent()))
     {
-        CPoint screenPoint = point;
-        ClientToScreen(&screenPoint);
-        parent->TrackEditMenu(screenPoint, GetDlgCtrlID());
+        ClientToScreen(&point);
+        parent->TrackEditMenu(point, GetDlgCtrlID());
     }
 }

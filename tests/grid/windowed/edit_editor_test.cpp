@@ -253,6 +253,14 @@ TEST_F(EditEditor, ScrollingClosesIt)
     }
 }
 
+TEST_F(EditEditor, ColumnOfAnotherWidthClosesIt)
+{
+    PressKey(VK_RETURN);
+    grid.SetColumnWidth(0, 200);
+    EXPECT_FALSE(grid.HasEditor());
+    EXPECT_EQ(grid.GetCellRect(a, 1).left, 200);
+}
+
 TEST_F(EditEditor, ScrollingGivesTheGridTheKeyboard)
 {
     ::SetFocus(window.GetSafeHwnd());

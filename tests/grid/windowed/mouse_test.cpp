@@ -221,6 +221,29 @@ TEST(GridMenuParent, IsNotAskedForTheEmptyArea)
     EXPECT_TRUE(parent.menus.empty());
 }
 
+TEST(GridMenuParent, IsAskedForTheMenuBelowTheFocusCellByTheMenuKey)
+{
+    MenuParent parent;
+    parent.grid.InsertFColumn(0, L"", LVCFMT_LEFT, 100, true);
+    parent.AddTop(L"A");
+    const RowKey b = parent.AddTop(L"B");
+    parent.grid.SetFocusRow(b, false);
+    parent.grid.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(parent.grid.GetSafeHwnd()), -1);
+    const CRect cell = parent.grid.GetCellRect(b, 0);
+    CPoint below(cell.left, cell.bottom);
+    parent.grid.ClientToScreen(&below);
+    ASSERT_EQ(parent.menus.size(), 1U);
+    EXPECT_EQ(parent.menus[0].first, below);
+    EXPECT_EQ(parent.menus[0].second, 1000);
+}
+
+TEST(GridMenuParent, IsNotAskedByTheMenuKeyWithoutFocusRow)
+{
+    MenuParent parent;
+    parent.grid.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(parent.grid.GetSafeHwnd()), -1);
+    EXPECT_TRUE(parent.menus.empty());
+}
+
 TEST(GridSelectionParent, IsToldOfEveryClickOnARow)
 {
     SelectionParent parent;
