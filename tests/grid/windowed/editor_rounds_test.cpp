@@ -2,11 +2,24 @@
 #include "tests/support/message_pump.h"
 #include "tests/support/resource_count.h"
 
-#include <cstdlib>
 #include <random>
 
 namespace
 {
+constexpr UINT kKeys[] = {VK_TAB,  VK_RETURN, VK_ESCAPE, VK_SPACE,  VK_PRIOR, VK_NEXT, VK_UP, VK_DOWN,
+                          VK_LEFT, VK_RIGHT,  VK_HOME,   VK_DELETE, VK_F4,    VK_ADD,  VK_F2, VK_SUBTRACT};
+
+enum class LastAct
+{
+    Nothing,
+    ScrollRows,
+    ScrollColumns,
+    TypeCharacter,
+    Click,
+    TakeFocusAway
+};
+constexpr int kLastActs = 6;
+
 int ChildWindows(HWND parent)
 {
     int children = 0;
@@ -15,121 +28,146 @@ int ChildWindows(HWND parent)
     return children;
 }
 
-// A grid whose 4 columns hold text, edit, list and button cells in 12 rows of two levels.
-class EditorRounds : public GridTest
+/// A grid whose 4 columns hold text, edit, list and button cells in 12 rows of two levels.
+class EditorGrid
 {
-protected:
-    EditorRounds()
+public:
+    EditorGrid()
     {
-        grid.InsertFColumn(3, L"button", LVCFMT_LEFT, 700, false);
+        window.grid.SetRowMode(false);
+        for (int column = 0; column < 3; ++column)
+            window.grid.InsertFColumn(column, L"column", LVCFMT_CENTER, 100, column == 0);
+        window.grid.InsertFColumn(3, L"button", LVCFMT_LEFT, 700, false);
         window.entries = {{L"one", 1}, {L"two", 2}, {L"three", 3}};
         window.selectedEntry = 1;
         for (int top = 0; top < 4; ++top)
         {
-            keys.push_back(window.AddTop(L"T"));
-            const RowKey parent = keys.back();
+            const RowKey parent = window.AddTop(L"T");
+            keys.push_back(parent);
             for (int child = 0; child < 2; ++child)
                 keys.push_back(window.AddChild(parent, L"C"));
-            grid.ExpandRow(parent);
+            window.grid.ExpandRow(parent);
         }
         for (const RowKey key : keys)
         {
-            grid.SetCellKind(key, 1, kCellEdit);
-            grid.SetCellKind(key, 2, kCellList);
-            grid.SetCellKind(key, 3, kCellButton | kCellCheckBox);
+            window.grid.SetCellKind(key, 1, kCellEdit);
+            window.grid.SetCellKind(key, 2, kCellList);
+            window.grid.SetCellKind(key, 3, kCellButton | kCellCheckBox);
         }
     }
 
-    /// Opens the editor of a random cell and does something random with it.
-    void Round(std::mt19937& random)
+    /// Opens the editor of a cell, presses keys, and does one thing more.
+    void Round(RowKey key, int column, const std::vector<UINT>& pressed, LastAct last, CPoint clicked)
     {
-        const RowKey key = keys[random() % keys.size()];
+        CFListCtrl& grid = window.grid;
         if (grid.FindRow(key)->ListIndex() < 0)
             grid.ExpandRow(grid.FindRow(key)->Parent()->Key());
         grid.SetFocus();
-        grid.SetFocusCell(key, static_cast<int>(random() % 4), true);
+        grid.SetFocusCell(key, column, true);
         if (!grid.HasEditor())
             grid.OpenEditor();
-        static constexpr UINT kKeys[] = {VK_TAB, VK_RETURN, VK_ESCAPE, VK_SPACE,   VK_PRIOR, VK_NEXT,
-                                         VK_UP,  VK_DOWN,   VK_LEFT,   VK_RIGHT,   VK_HOME,  VK_DELETE,
-                                         VK_F4,  VK_ADD,    VK_F2,     VK_SUBTRACT};
-        for (unsigned step = random() % 4; step > 0; --step)
-            PressKey(kKeys[random() % std::size(kKeys)]);
-        switch (random() % 8)
+        for (const UINT pressedKey : pressed)
+            PressKey(pressedKey);
+        switch (last)
         {
-        case 0:
-            grid.SendMessage(WM_VSCROLL, random() % 2 == 0 ? SB_LINEDOWN : SB_LINEUP);
+        case LastAct::Nothing:
             break;
-        case 1:
-            grid.SendMessage(WM_HSCROLL, random() % 2 == 0 ? SB_PAGERIGHT : SB_PAGELEFT);
+        case LastAct::ScrollRows:
+            grid.SendMessage(WM_VSCROLL, clicked.x % 2 == 0 ? SB_LINEDOWN : SB_LINEUP);
             break;
-        case 2:
+        case LastAct::ScrollColumns:
+            grid.SendMessage(WM_HSCROLL, clicked.x % 2 == 0 ? SB_PAGERIGHT : SB_PAGELEFT);
+            break;
+        case LastAct::TypeCharacter:
             TypeText(L"x");
             break;
-        case 3:
-            LeftClick(grid, CPoint(static_cast<int>(random() % 600), static_cast<int>(random() % 300)));
+        case LastAct::Click:
+            LeftClick(grid, clicked);
             break;
-        case 4:
+        case LastAct::TakeFocusAway:
             ::SetFocus(window.GetSafeHwnd());
-            break;
-        default:
             break;
         }
         PumpUntilIdle();
         window.TakeTold();
     }
-    /// Brings the grid into one state, whatever happened before.
-    void CloseAll()
+    void RandomRound(std::mt19937& random)
     {
-        grid.CloseEditor();
-        for (const RowKey key : keys)
-            grid.ExpandRow(key);
-        for (const RowKey key : keys)
-            for (int column = 0; column < 4; ++column)
-            {
-                grid.SetCellText(key, column, L"same");
-                grid.SetCellChecked(key, column, false);
-            }
-        grid.SetFocusCell(keys[0], 0, false);
-        ::SetFocus(window.GetSafeHwnd());
-        window.UpdateWindow();
-        PumpUntilIdle();
-        AfxGetThread()->OnIdle(0);  // deletes the temporary objects
+        std::vector<UINT> pressed;
+        for (unsigned count = random() % 4; count > 0; --count)
+            pressed.push_back(kKeys[random() % std::size(kKeys)]);
+        const RowKey key = keys[random() % keys.size()];
+        const int column = static_cast<int>(random() % 4);
+        const auto last = static_cast<LastAct>(random() % kLastActs);
+        const CPoint clicked(static_cast<int>(random() % 600), static_cast<int>(random() % 300));
+        Round(key, column, pressed, last, clicked);
     }
 
+    GridWindow window;
     std::vector<RowKey> keys;
+};
+
+struct Held
+{
+    int objects;
+    std::size_t blocks;
+};
+
+Held HeldNow()
+{
+    PumpUntilIdle();
+    AfxGetThread()->OnIdle(0);  // deletes the temporary objects
+    return {GdiObjectCount(), HeapBlockCount()};
+}
+
+class EditorRounds : public testing::TestWithParam<int>
+{
+protected:
+    // The system keeps what it made for the first use of a thing, so everything is used once before anything is
+    // counted.
+    static void SetUpTestSuite()
+    {
+        int round = 0;
+        for (int column = 0; column < 4; ++column)
+        {
+            {
+                EditorGrid used;
+                for (const UINT key : kKeys)
+                    for (const std::vector<UINT>& pressed : {std::vector<UINT>{key}, std::vector<UINT>{VK_RETURN, key}})
+                    {
+                        used.Round(used.keys[static_cast<std::size_t>(round) % used.keys.size()], column, pressed,
+                                   static_cast<LastAct>(round % kLastActs), CPoint(round * 37 % 600, round * 17 % 300));
+                        ++round;
+                    }
+            }
+            HeldNow();
+        }
+    }
 };
 }  // namespace
 
-// CALCTOL_EDITOR_ROUNDS in the environment sets another number of rounds.
-TEST_F(EditorRounds, LeaveNoWindowNoObjectAndNoMemoryBehind)
+// Five times a hundred rounds, each with a seed of its own. With --gtest_shuffle the seeds follow the one that is
+// printed, so --gtest_repeat=20 makes ten thousand different rounds.
+TEST_P(EditorRounds, LeaveNoWindowNoObjectAndNoMemoryBehind)
 {
-    constexpr int kWarmUp = 200;  // until everything is made that the system keeps
-    const char* const wanted = std::getenv("CALCTOL_EDITOR_ROUNDS");
-    const int rounds = kWarmUp + (wanted != nullptr ? std::atoi(wanted) : 500);
-    std::mt19937 random(20240607);
-    int objects = 0;
-    std::size_t blocks = 0;
-    for (int round = 0; round <= rounds; ++round)
+    constexpr int kRounds = 100;
+    std::mt19937 random(static_cast<unsigned>(GetParam() + testing::UnitTest::GetInstance()->random_seed()));
+    const Held before = HeldNow();
     {
-        SCOPED_TRACE(round);
-        if (round == kWarmUp || round == rounds)
+        EditorGrid edited;
+        for (int round = 0; round < kRounds; ++round)
         {
-            CloseAll();
-            EXPECT_EQ(ChildWindows(grid.GetSafeHwnd()), 1);  // the header
+            edited.RandomRound(random);
+            ASSERT_TRUE(edited.window.IndicesAreExact()) << round;
+            ASSERT_LE(ChildWindows(edited.window.grid.GetSafeHwnd()), 2) << round;
         }
-        if (round == kWarmUp)
-        {
-            objects = GdiObjectCount();
-            blocks = HeapBlockCount();
-        }
-        else if (round == rounds)
-        {
-            EXPECT_EQ(GdiObjectCount(), objects);
-            EXPECT_EQ(HeapBlockCount(), blocks);
-        }
-        Round(random);
-        ASSERT_TRUE(window.IndicesAreExact());
-        ASSERT_LE(ChildWindows(grid.GetSafeHwnd()), 2);
+        edited.window.grid.CloseEditor();
+        PumpUntilIdle();
+        EXPECT_EQ(ChildWindows(edited.window.grid.GetSafeHwnd()), 1);  // the header
     }
+    const Held after = HeldNow();
+    EXPECT_EQ(after.objects, before.objects);
+    EXPECT_EQ(after.blocks, before.blocks);
 }
+
+INSTANTIATE_TEST_SUITE_P(Seeds, EditorRounds, testing::Values(10, 20, 30, 40, 50));
