@@ -7,8 +7,8 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
-#include "dialog/menu_states.h"
 #include "diagram/weight_chain.h"
+#include "dialog/menu_states.h"
 #include "drawing/picture_frame.h"
 #include "grid/f_list_ctrl.h"
 #include "grid/grid_parent.h"

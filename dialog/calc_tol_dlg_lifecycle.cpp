@@ -1,9 +1,9 @@
 // The calculation dialog's window: creation, method, reset, end.
 
 #include "calc/chain_calculation.h"
+#include "diagram/weight_dlg.h"
 #include "dialog/calc_tol_dlg.h"
 #include "dialog/columns.h"
-#include "diagram/weight_dlg.h"
 #include "distribution/variable_dlg.h"
 #include "drawing/link_image.h"
 #include "interface/notify_host.h"
@@ -15,8 +15,7 @@
 namespace
 {
 
-constexpr DWORD kListStyles =
-    LVS_EX_GRIDLINES | LVS_EX_HEADERDRAGDROP | LVS_EX_FULLROWSELECT | LVS_EX_TWOCLICKACTIVATE;
+constexpr DWORD kListStyles = LVS_EX_GRIDLINES | LVS_EX_HEADERDRAGDROP | LVS_EX_FULLROWSELECT | LVS_EX_TWOCLICKACTIVATE;
 constexpr COLORREF kTransparent = RGB(255, 0, 255);
 constexpr int kImageGrowth = 9;
 constexpr int kClosingImage = 0;

@@ -3,11 +3,11 @@
 #include <memory>
 
 #include "calc/distribution_laws.h"
+#include "diagram/weight_dlg.h"
 #include "dialog/calc_tol_dlg.h"
 #include "dialog/columns.h"
 #include "dialog/row_values.h"
 #include "dialog/weight_fixed_text.h"
-#include "diagram/weight_dlg.h"
 #include "drawing/link_image.h"
 #include "platform/moduleskin/module_skin.h"
 #include "tolerance/edit_close_tol_dlg.h"
@@ -91,7 +91,8 @@ void CCalcTolDlg::SetClosingTexts(const CDimParams& params)
 void CCalcTolDlg::GetArrayObject(CArray<void*, void*>& objects)
 {
     const Row* const chain = ChainRow();
-    for (const Row* link = chain != nullptr ? chain->FirstChild() : nullptr; link != nullptr; link = link->NextSibling())
+    for (const Row* link = chain != nullptr ? chain->FirstChild() : nullptr; link != nullptr;
+         link = link->NextSibling())
         objects.Add(RecordOf(*link)->hostObject);
 }
 

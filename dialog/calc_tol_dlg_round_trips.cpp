@@ -1,10 +1,10 @@
 // The calculation dialog's child dialogs: what opens them, what they get, and what the host reads and writes back.
 
+#include "diagram/weight_dlg.h"
 #include "dialog/calc_tol_dlg.h"
 #include "dialog/columns.h"
 #include "dialog/row_values.h"
 #include "dialog/weight_fixed_text.h"
-#include "diagram/weight_dlg.h"
 #include "distribution/variable_dlg.h"
 #include "drawing/link_image.h"
 #include "interface/notify_host.h"

@@ -25,6 +25,9 @@ public:
     /// The window that gets the reports; to be set before the dialog runs.
     void SetHostWindow(CWnd* hostWindow) { m_hostWindow = hostWindow; }
 
+    /// For a caller that has to know whether the dialog outlived a message to the host.
+    LifetimeWatch Watch() const { return LifetimeWatch(m_lifetime); }
+
     /// The edited record. What it holds when the dialog opens is shown.
     CVariableParams& Params() { return m_params; }
 
