@@ -14,19 +14,22 @@ TOLERANCE = (0, 96, 192)
 CLOSING = (196, 32, 32)
 INSIDE = (97, 220, 5)
 
-LARGE_GLYPHS = {  # 5 x 7
+GLYPHS = {  # 7 pixels high
     "0": (".###.", "#...#", "#...#", "#...#", "#...#", "#...#", ".###."),
+    "1": (".#.", "##.", ".#.", ".#.", ".#.", ".#.", "###"),
+    "2": (".###.", "#...#", "....#", "...#.", "..#..", ".#...", "#####"),
     "4": ("...#.", "..##.", ".#.#.", "#..#.", "#####", "...#.", "...#."),
-    "\u00d8": (".###*", "#..##", "#.*.#", "#.*.#", "#.*.#", "##..#", "*###."),
+    "+": (".....", "..#..", "..#..", "#####", "..#..", "..#..", "....."),
+    "-": (".....", ".....", ".....", "#####", ".....", ".....", "....."),
+    "\u00b1": ("..#..", "..#..", "#####", "..#..", "..#..", ".....", "#####"),
+    "\u00d8": (".####", "#..##", "#.#.#", "#.#.#", "#.#.#", "##..#", "####."),
+    ".": (".", ".", ".", ".", ".", ".", "#"),
+    "?": (".###.", "#...#", "....#", "...#.", "..#..", ".....", "..#.."),
 }
-SMALL_GLYPHS = {  # 3 x 5
-    "0": ("###", "#.#", "#.#", "#.#", "###"),
-    "1": (".#.", "##.", ".#.", ".#.", "###"),
-    "2": ("###", "..#", "###", "#..", "###"),
-    "+": ("...", ".#.", "###", ".#.", "..."),
-    "-": ("...", "...", "###", "...", "..."),
-    ".": (".", ".", ".", ".", "#"),
-}
+SLENDER = (0, 0, 0, 1, 1, 1, 2, 2, 2)  # arrow heads: pixels on either side of the axis, from the tip on
+SLIM = (0, 0, 1, 1, 2, 2)
+SHORT = (0, 1, 2)
+TINY = (0, 1)
 
 
 class Drawing:
@@ -42,43 +45,37 @@ class Drawing:
     def box(self, left, top, right, bottom, colour=INK, fill=None):
         self.draw.rectangle((left, top, right, bottom), outline=colour, fill=fill)
 
-    def arrow_head(self, x, y, dx, dy, length, half, colour=INK):
-        """Its tip at x, y points along dx, dy; `half` pixels wide on either side of its axis at the far end."""
-        for step in range(length):
-            side = round(half * step / (length - 1)) if length > 1 else 0
+    def arrow_head(self, x, y, dx, dy, shape, colour=INK):
+        """With its tip at x, y, pointing along dx, dy."""
+        for step, side in enumerate(shape):
             cx, cy = x - dx * step, y - dy * step
             self.line(cx - dy * side, cy - dx * side, cx + dy * side, cy + dx * side, colour)
 
-    def horizontal_dimension(self, left, right, y, length, half, colour=INK):
+    def horizontal_dimension(self, left, right, y, shape, colour=INK):
         self.line(left, y, right, y, colour)
-        self.arrow_head(left, y, -1, 0, length, half, colour)
-        self.arrow_head(right, y, 1, 0, length, half, colour)
+        self.arrow_head(left, y, -1, 0, shape, colour)
+        self.arrow_head(right, y, 1, 0, shape, colour)
 
-    def vertical_dimension(self, x, top, bottom, length, half, colour=INK):
+    def vertical_dimension(self, x, top, bottom, shape, colour=INK):
         self.line(x, top, x, bottom, colour)
-        self.arrow_head(x, top, 0, -1, length, half, colour)
-        self.arrow_head(x, bottom, 0, 1, length, half, colour)
+        self.arrow_head(x, top, 0, -1, shape, colour)
+        self.arrow_head(x, bottom, 0, 1, shape, colour)
 
-    def text(self, x, y, text, glyphs, colour=INK):
-        """Returns the column behind the text."""
+    def text(self, x, y, text, colour=INK):
+        """Returns the column in which a further character would begin."""
         for character in text:
-            rows = glyphs[character]
+            rows = GLYPHS[character]
             for row, pixels in enumerate(rows):
                 for column, pixel in enumerate(pixels):
-                    if pixel != ".":
+                    if pixel == "#":
                         self.image.putpixel((x + column, y + row), colour)
             x += len(rows[0]) + 1
         return x
 
-    def deviations(self, x, y):
-        self.text(x, y, "+0.2", SMALL_GLYPHS, TOLERANCE)
-        self.text(x, y + 6, "-0.1", SMALL_GLYPHS, TOLERANCE)
-
-    def plus_minus(self, x, y, colour=TOLERANCE):
-        """5 x 7 pixels."""
-        self.line(x, y + 2, x + 4, y + 2, colour)
-        self.line(x + 2, y, x + 2, y + 4, colour)
-        self.line(x, y + 6, x + 4, y + 6, colour)
+    def toleranced_text(self, x, y, text):
+        x = self.text(x, y, text) + 1
+        self.text(x, y - 5, "+0.2", TOLERANCE)
+        self.text(x, y + 4, "-0.1", TOLERANCE)
 
 
 # Images of the lists: hard pixels only, since what is half transparent would show magenta.
@@ -93,15 +90,20 @@ def tree_button(collapsed):
     return drawing.image
 
 
+def extension_lines(left, top, right, bottom, width=16):
+    drawing = Drawing(width, 16, TRANSPARENT)
+    drawing.line(left, top, left, bottom)
+    drawing.line(right, top, right, bottom)
+    return drawing
+
+
 def chain():
     """Two links on one line, the closing link below."""
-    drawing = Drawing(16, 16, TRANSPARENT)
-    for x in (1, 14):
-        drawing.line(x, 1, x, 14)
+    drawing = extension_lines(1, 1, 14, 14)
     drawing.line(8, 1, 8, 7)
-    drawing.horizontal_dimension(2, 7, 4, 2, 1)
-    drawing.horizontal_dimension(9, 13, 4, 2, 1)
-    drawing.horizontal_dimension(2, 13, 11, 3, 2, CLOSING)
+    drawing.horizontal_dimension(2, 7, 4, TINY)
+    drawing.horizontal_dimension(9, 13, 4, TINY)
+    drawing.horizontal_dimension(2, 13, 11, SHORT, CLOSING)
     return drawing.image
 
 
@@ -117,43 +119,35 @@ def check_box(checked):
 
 def direction(increasing):
     """A link and the way in which it moves the closing link."""
-    drawing = Drawing(16, 16, TRANSPARENT)
-    for x in (1, 14):
-        drawing.line(x, 3, x, 14)
+    drawing = extension_lines(1, 3, 14, 14)
     drawing.line(2, 10, 13, 10)
     if increasing:
-        drawing.arrow_head(13, 10, 1, 0, 5, 3, TOLERANCE)
+        drawing.arrow_head(13, 10, 1, 0, SLIM)
     else:
-        drawing.arrow_head(2, 10, -1, 0, 5, 3, TOLERANCE)
+        drawing.arrow_head(2, 10, -1, 0, SLIM)
     return drawing.image
 
 
 def small_closing_link():
-    drawing = Drawing(16, 16, TRANSPARENT)
-    for x in (1, 14):
-        drawing.line(x, 3, x, 14)
-    drawing.horizontal_dimension(2, 13, 10, 4, 2, CLOSING)
-    drawing.box(5, 2, 10, 5, INK, INSIDE)
+    drawing = extension_lines(1, 3, 14, 14)
+    drawing.horizontal_dimension(2, 13, 11, SHORT, CLOSING)
+    drawing.box(5, 3, 10, 7, INK, INSIDE)
     return drawing.image
 
 
 def any_dimension():
-    """A dimension of a kind that has no picture."""
-    drawing = Drawing(16, 16, TRANSPARENT)
-    for x in (1, 14):
-        drawing.line(x, 3, x, 14)
-    for x in range(2, 14, 2):
-        drawing.line(x, 10, x, 10)
+    """A dimension of a kind without a picture of its own."""
+    drawing = extension_lines(1, 5, 14, 15)
+    drawing.line(2, 12, 13, 12)
+    drawing.text(5, 2, "?")
     return drawing.image
 
 
 def linear(toleranced):
-    drawing = Drawing(16, 16, TRANSPARENT)
-    for x in (1, 14):
-        drawing.line(x, 5, x, 15)
-    drawing.horizontal_dimension(2, 13, 11, 4, 2)
+    drawing = extension_lines(1, 5, 14, 15)
+    drawing.horizontal_dimension(2, 13, 12, SHORT)
     if toleranced:
-        drawing.plus_minus(5, 1)
+        drawing.text(5, 1, "\u00b1")
     return drawing.image
 
 
@@ -165,10 +159,8 @@ def diameter():
 
 
 def closing_link():
-    drawing = Drawing(25, 16, TRANSPARENT)
-    for x in (1, 22):
-        drawing.line(x, 3, x, 14)
-    drawing.horizontal_dimension(2, 21, 11, 5, 2, CLOSING)
+    drawing = extension_lines(1, 3, 22, 14, width=25)
+    drawing.horizontal_dimension(2, 21, 11, SLIM, CLOSING)
     drawing.box(7, 3, 16, 7, INK, INSIDE)
     return drawing.image
 
@@ -177,7 +169,7 @@ def closing_link():
 
 
 def card():
-    """White paper: it looks the same on any colour of a dialog."""
+    """White paper, which looks right on any colour of a dialog."""
     drawing = Drawing(108, 65, WHITE)
     drawing.box(0, 0, 107, 64, BORDER)
     return drawing
@@ -185,28 +177,28 @@ def card():
 
 def linear_card(toleranced):
     drawing = card()
-    drawing.box(22, 34, 85, 56, INK, PART)
-    drawing.line(22, 15, 22, 31)
-    drawing.line(85, 15, 85, 31)
-    drawing.horizontal_dimension(23, 84, 19, 8, 2)
-    x = drawing.text(40 if toleranced else 48, 8, "40", LARGE_GLYPHS)
+    drawing.box(18, 38, 89, 57, INK, PART)
+    drawing.line(18, 19, 18, 35)
+    drawing.line(89, 19, 89, 35)
+    drawing.horizontal_dimension(19, 88, 23, SLENDER)
     if toleranced:
-        drawing.deviations(x + 1, 4)
+        drawing.toleranced_text(36, 9, "40")
+    else:
+        drawing.text(48, 12, "40")
     return drawing.image
 
 
 def diameter_card():
     drawing = card()
     drawing.box(8, 21, 26, 43, INK, PART)
-    drawing.box(26, 12, 46, 52, INK, PART)
-    for x in range(4, 52, 9):
-        drawing.line(x, 32, min(x + 4, 51), 32, CLOSING)
+    drawing.box(26, 12, 44, 52, INK, PART)
+    for x in range(4, 49, 9):  # centre line
+        drawing.line(x, 32, x + 4, 32, CLOSING)
         drawing.line(x + 6, 32, x + 6, 32, CLOSING)
-    drawing.line(49, 12, 62, 12)
-    drawing.line(49, 52, 62, 52)
-    drawing.vertical_dimension(58, 13, 51, 8, 2)
-    x = drawing.text(63, 30, "\u00d840", LARGE_GLYPHS)
-    drawing.deviations(x, 26)
+    drawing.line(47, 12, 59, 12)
+    drawing.line(47, 52, 59, 52)
+    drawing.vertical_dimension(56, 13, 51, SLENDER)
+    drawing.toleranced_text(61, 29, "\u00d840")
     return drawing.image
 
 
