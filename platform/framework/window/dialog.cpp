@@ -31,10 +31,9 @@ constexpr wchar_t kDialogClass[] = L"#32770";
 constexpr UINT kFirstCommandId = 0x8000;  // below it are the IDs of controls, whose commands stay in their dialog
 constexpr UINT kLastCommandId = 0xEFFF;   // above it are the IDs of the system menu
 
-/// The template in the current resource module; null when there is none.
-const DLGTEMPLATE* FindTemplate(LPCWSTR name)
+/// The template in that module; null when there is none.
+const DLGTEMPLATE* FindTemplate(HINSTANCE module, LPCWSTR name)
 {
-    const HINSTANCE module = AfxFindResourceHandle(name, RT_DIALOG);
     const HRSRC resource = ::FindResourceW(module, name, RT_DIALOG);
     const HGLOBAL loaded = resource == nullptr ? nullptr : ::LoadResource(module, resource);
     return loaded == nullptr ? nullptr : static_cast<const DLGTEMPLATE*>(::LockResource(loaded));
@@ -114,30 +113,32 @@ BOOL CDialog::Create(UINT templateId, CWnd* parent)
 
 BOOL CDialog::Create(LPCWSTR templateName, CWnd* parent)
 {
-    const DLGTEMPLATE* dialogTemplate = FindTemplate(templateName);
-    return dialogTemplate != nullptr && CreateFromTemplate(dialogTemplate, OwnerOfModeless(parent));
+    return CreateFromTemplate(templateName, OwnerOfModeless(parent));
 }
 
-// This object may be deleted when the function returns.
-BOOL CDialog::CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner)
+// This object may be deleted when the function returns. The template's module is the instance that Windows is given,
+// because the menu that the template names lies there.
+BOOL CDialog::CreateFromTemplate(LPCWSTR templateName, HWND owner)
 {
+    const HINSTANCE module = AfxFindResourceHandle(templateName, RT_DIALOG);
+    const DLGTEMPLATE* dialogTemplate = FindTemplate(module, templateName);
+    if (dialogTemplate == nullptr)
+        return FALSE;
     RegisterCommonControls();
     const WindowCreation creation(*this, kDialogClass);
-    const HWND window =
-        ::CreateDialogIndirectParamW(AfxGetInstanceHandle(), dialogTemplate, owner, &DialogProcedure, 0);
+    const HWND window = ::CreateDialogIndirectParamW(module, dialogTemplate, owner, &DialogProcedure, 0);
     return window != nullptr && ::IsWindow(window);
 }
 
 INT_PTR CDialog::DoModal()
 {
-    const DLGTEMPLATE* dialogTemplate = FindTemplate(m_templateName);
-    if (dialogTemplate == nullptr || m_modalRun != nullptr || m_hWnd != nullptr)
+    if (m_modalRun != nullptr || m_hWnd != nullptr)
         return -1;
     const HWND owner = OwnerOfModal(m_parent);
     ModalRun run;
     m_modalRun = &run;
     DisabledOwners owners(owner);
-    const BOOL created = CreateFromTemplate(dialogTemplate, owner);
+    const BOOL created = CreateFromTemplate(m_templateName, owner);
     if (created && !run.ended)
     {
         const HWND window = m_hWnd;

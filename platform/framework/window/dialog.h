@@ -61,7 +61,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    BOOL CreateFromTemplate(const DLGTEMPLATE* dialogTemplate, HWND owner);
+    BOOL CreateFromTemplate(LPCWSTR templateName, HWND owner);
     /// The window or this object goes while DoModal runs: its loop ends and leaves the object alone.
     void AbandonModalRun();
     LRESULT OnHandleInitDialog(WPARAM wParam, LPARAM lParam);

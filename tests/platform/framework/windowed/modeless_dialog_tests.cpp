@@ -138,6 +138,19 @@ TEST(ModelessDialogCreation, TemplateWithVisibleStyleIsShownAtOnce)
     EXPECT_TRUE(dialog.IsWindowVisible());
 }
 
+// The program has another menu with that number.
+TEST(ModelessDialogCreation, TakesTheMenuFromTheModuleOfTheTemplate)
+{
+    const ResourceModule module;
+    ASSERT_TRUE(module.IsLoaded());
+    RecordingWindow owner;
+    CDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_WITH_MENU, &owner));
+    wchar_t text[40] = {};
+    ::GetMenuStringW(::GetMenu(dialog), 0, text, 40, MF_BYPOSITION);
+    EXPECT_EQ(CString(text), CString(L"&Module"));
+}
+
 TEST(ModelessDialogCreation, ProgramSuppliesWhatTheResourceModuleLacks)
 {
     const ResourceModule module;

@@ -2,6 +2,7 @@
 
 #define IDD_PLAIN 200
 #define IDD_VISIBLE 201
+#define IDD_WITH_MENU 202
 #define IDC_FIRST 210
 #define IDC_SECOND 211
 #define IDC_CHECK 212
