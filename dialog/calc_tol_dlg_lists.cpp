@@ -9,6 +9,7 @@
 #include "dialog/row_values.h"
 #include "dialog/weight_fixed_text.h"
 #include "drawing/link_image.h"
+#include "grid/painting_pause.h"
 #include "platform/moduleskin/module_skin.h"
 #include "tolerance/edit_close_tol_dlg.h"
 #include "tolerance/edit_tol_dlg.h"
@@ -140,6 +141,7 @@ void CCalcTolDlg::DeleteAllLinks()
     const Row* const chain = ChainRow();
     if (chain == nullptr)
         return;
+    const PaintingPause pause(m_chainList);
     while (const Row* const link = chain->FirstChild())
         DeleteLink(*link);
 }

@@ -1,4 +1,5 @@
 #include "grid/f_list_ctrl.h"
+#include "grid/painting_pause.h"
 
 #include <algorithm>
 
@@ -10,32 +11,6 @@ RowKey NewRowKey()
     static std::uintptr_t lastKey = 0;
     return reinterpret_cast<RowKey>(++lastKey);
 }
-
-/// Keeps a visible list from painting until the end of a scope. A hidden one is left alone: switching its drawing back
-/// on would show it.
-class PaintingPause
-{
-public:
-    explicit PaintingPause(CListCtrl& list) : m_list(list), m_paused(list.IsWindowVisible() != FALSE)
-    {
-        if (m_paused)
-            m_list.SetRedraw(FALSE);
-    }
-    ~PaintingPause()
-    {
-        if (m_paused)
-        {
-            m_list.SetRedraw(TRUE);
-            m_list.Invalidate();
-        }
-    }
-    PaintingPause(const PaintingPause&) = delete;
-    PaintingPause& operator=(const PaintingPause&) = delete;
-
-private:
-    CListCtrl& m_list;
-    bool m_paused;
-};
 }  // namespace
 
 // --- the model ---
