@@ -11,7 +11,8 @@ BORDER = (172, 172, 172)
 INK = (32, 32, 32)
 PART = (206, 217, 228)
 TOLERANCE = (0, 96, 192)
-CLOSING = (196, 32, 32)
+PALE = (160, 160, 160)
+RED = (196, 32, 32)
 INSIDE = (97, 220, 5)
 
 GLYPHS = {  # 7 pixels high
@@ -72,10 +73,12 @@ class Drawing:
             x += len(rows[0]) + 1
         return x
 
-    def toleranced_text(self, x, y, text):
+    def toleranced_text(self, x, y, text, colour=TOLERANCE):
+        """Returns the first column of the deviations; they have 20 x 16 pixels from y - 5 on."""
         x = self.text(x, y, text) + 1
-        self.text(x, y - 5, "+0.2", TOLERANCE)
-        self.text(x, y + 4, "-0.1", TOLERANCE)
+        self.text(x, y - 5, "+0.2", colour)
+        self.text(x, y + 4, "-0.1", colour)
+        return x
 
 
 # Images of the lists: hard pixels only, since what is half transparent would show magenta.
@@ -103,7 +106,7 @@ def chain():
     drawing.line(8, 1, 8, 7)
     drawing.horizontal_dimension(2, 7, 4, TINY)
     drawing.horizontal_dimension(9, 13, 4, TINY)
-    drawing.horizontal_dimension(2, 13, 11, SHORT, CLOSING)
+    drawing.horizontal_dimension(2, 13, 11, SHORT, RED)
     return drawing.image
 
 
@@ -130,22 +133,22 @@ def direction(increasing):
 
 def small_closing_link():
     drawing = extension_lines(1, 3, 14, 14)
-    drawing.horizontal_dimension(2, 13, 11, SHORT, CLOSING)
+    drawing.horizontal_dimension(2, 13, 11, SHORT, RED)
     drawing.box(5, 3, 10, 7, INK, INSIDE)
     return drawing.image
 
 
 def any_dimension():
     """A dimension of a kind without a picture of its own."""
-    drawing = extension_lines(1, 5, 14, 15)
-    drawing.line(2, 12, 13, 12)
-    drawing.text(5, 2, "?")
+    drawing = extension_lines(1, 4, 14, 14)
+    drawing.line(2, 11, 13, 11)
+    drawing.text(5, 1, "?")
     return drawing.image
 
 
 def linear(toleranced):
-    drawing = extension_lines(1, 5, 14, 15)
-    drawing.horizontal_dimension(2, 13, 12, SHORT)
+    drawing = extension_lines(1, 4, 14, 14)
+    drawing.horizontal_dimension(2, 13, 11, SHORT)
     if toleranced:
         drawing.text(5, 1, "\u00b1")
     return drawing.image
@@ -160,7 +163,7 @@ def diameter():
 
 def closing_link():
     drawing = extension_lines(1, 3, 22, 14, width=25)
-    drawing.horizontal_dimension(2, 21, 11, SLIM, CLOSING)
+    drawing.horizontal_dimension(2, 21, 11, SLIM, RED)
     drawing.box(7, 3, 16, 7, INK, INSIDE)
     return drawing.image
 
@@ -181,10 +184,11 @@ def linear_card(toleranced):
     drawing.line(18, 19, 18, 35)
     drawing.line(89, 19, 89, 35)
     drawing.horizontal_dimension(19, 88, 23, SLENDER)
-    if toleranced:
-        drawing.toleranced_text(36, 9, "40")
-    else:
-        drawing.text(48, 12, "40")
+    x = drawing.toleranced_text(36, 9, "40", TOLERANCE if toleranced else PALE)
+    if not toleranced:
+        for offset in (0, 1):
+            drawing.line(x - 2 + offset, 3, x + 19 + offset, 20, RED)
+            drawing.line(x + 19 + offset, 3, x - 2 + offset, 20, RED)
     return drawing.image
 
 
@@ -193,8 +197,8 @@ def diameter_card():
     drawing.box(8, 21, 26, 43, INK, PART)
     drawing.box(26, 12, 44, 52, INK, PART)
     for x in range(4, 49, 9):  # centre line
-        drawing.line(x, 32, x + 4, 32, CLOSING)
-        drawing.line(x + 6, 32, x + 6, 32, CLOSING)
+        drawing.line(x, 32, x + 4, 32, RED)
+        drawing.line(x + 6, 32, x + 6, 32, RED)
     drawing.line(47, 12, 59, 12)
     drawing.line(47, 52, 59, 52)
     drawing.vertical_dimension(56, 13, 51, SLENDER)
