@@ -89,7 +89,7 @@ TEST_F(LinkKeyboard, WalksTheControlsAsTheyStand)
     EXPECT_EQ(
         TabOrder(IDC_LINK_NAME, 10),
         (std::vector<int>{IDC_LINK_NAME, IDC_LINK_DIRECTION, IDC_LINK_FIELD, IDC_LINK_FILTER, IDC_LINK_UPPER_DEV,
-                          IDC_LINK_LOWER_DEV, IDC_LINK_WEIGHT_FIXED, IDC_LINK_APPLY, IDC_LINK_OK, IDC_LINK_CANCEL}));
+                          IDC_LINK_LOWER_DEV, IDC_LINK_WEIGHT_FIXED, IDC_LINK_OK, IDC_LINK_CANCEL, IDC_LINK_APPLY}));
 }
 
 TEST_F(ClosingKeyboard, WalksTheControlsAsTheyStand)
