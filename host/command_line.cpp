@@ -21,10 +21,10 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments)
         ->type_name("FILE");
     CLI::Option* const play =
         app.add_option("--play", commandLine.play, "play this script in the windows, then end")->type_name("FILE");
-    app.add_option("--timeout", timeout, "stop a play that has not ended after so many seconds, with exit code 3")
-        ->type_name("SECONDS")
+    app.add_option("--timeout", timeout,
+                   "stop a play that has not ended after so many seconds, with exit code 3 (default: 120)")
         ->check(CLI::Range(1, kLongestPlay))
-        ->capture_default_str()
+        ->option_text("SECONDS")
         ->needs(play);
 
     std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());  // as the library wants them

@@ -12,6 +12,7 @@ namespace
 // Sizes in units of 1/96 inch.
 constexpr double kArrowLength = 11;
 constexpr double kArrowHalfWidth = 2;
+constexpr double kBetweenArrows = 12;   // least room between two arrows that point outwards
 constexpr double kOuterLine = 20;       // of a dimension line whose arrows come from outside, beyond each end
 constexpr double kExtensionGap = 2;     // between the measured point and its extension line
 constexpr double kExtensionBeyond = 5;  // from the dimension line to the end of the extension line
@@ -147,7 +148,7 @@ DimensionShape LayoutDimension(const DrawingDimension& dimension, const SheetTra
     const bool readsForward = Dot(reading, along) > 0.0;
     const PixelPoint left = (readsForward ? from : to) + aside;
     const PixelPoint right = (readsForward ? to : from) + aside;
-    const bool arrowsInside = length >= (2 * kArrowLength + kTextMargin) * unit;
+    const bool arrowsInside = length >= (2 * kArrowLength + kBetweenArrows) * unit;
     const double beyond = arrowsInside ? 0.0 : kOuterLine * unit;
     shape.arrows = {Arrow(left, arrowsInside ? -reading : reading, unit),
                     Arrow(right, arrowsInside ? reading : -reading, unit)};

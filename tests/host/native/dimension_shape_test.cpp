@@ -92,17 +92,19 @@ TEST(DimensionShape, ArrowsPointOutwardsAtTheEnds)
     ExpectNear(shape.arrows[1][2], {89, 192});
 }
 
-// 25 pixels have no room for two arrows of 11 and the 4 between them.
+// Two arrows of 11 and the 12 between them need 34 pixels.
 TEST(DimensionShape, ArrowsOfAShortLineComeFromOutside)
 {
     DrawingDimension dimension = Level();
-    dimension.to = {25.9, 0};
-    const DimensionShape shape = Layout(dimension);
+    dimension.to = {34, 0};
+    EXPECT_NEAR(Layout(dimension).arrows[0][1].x, 11, kNear);
 
+    dimension.to = {33.9, 0};
+    const DimensionShape shape = Layout(dimension);
     ExpectNear(shape.arrows[0][0], {0, 190});
     EXPECT_NEAR(shape.arrows[0][1].x, -11, kNear);
-    EXPECT_NEAR(shape.arrows[1][1].x, 25.9 + 11, kNear);
-    EXPECT_NEAR(shape.dimensionLines[0].from.x, -20, kNear);
+    EXPECT_NEAR(shape.arrows[1][1].x, 33.9 + 11, kNear);
+    ExpectNear(shape.dimensionLines[0], {-20, 190}, {33.9 + 20, 190});
 }
 
 // Three letters of 6 in the middle of 100, one pixel above the line.
