@@ -6,6 +6,7 @@
 #include <afxcmn.h>
 
 #include "dialog_lists.h"
+#include "platform/moduleskin/module_skin.h"
 #include "platform/moduleskin/resource.h"
 #include "skin_dialog.h"
 #include "tests/support/framework_printers.h"
@@ -235,6 +236,27 @@ TEST(CalculationDialogTemplate, HasRoomForTheDiagram)
     const CSize units = dialog.BaseUnits();
     EXPECT_GE(::MulDiv(area.right, 6, units.cx), 420);
     EXPECT_GE(::MulDiv(area.bottom, 13, units.cy), 220);
+}
+
+// Links appear there one by one while the tolerance dialogs are open.
+TEST(ToleranceDialogTemplates, OpenBelowTheListsOfTheCalculationDialog)
+{
+    const CModuleSkin skin(kModuleCalcTol);
+    CDialog calculation;
+    ASSERT_TRUE(calculation.Create(IDD_CALC_TOL));
+    for (const UINT id : {IDD_EDIT_TOL, IDD_EDIT_CLOSE_TOL})
+    {
+        CDialog tolerance;
+        ASSERT_TRUE(tolerance.Create(id, &calculation));
+        CRect list;
+        ::GetWindowRect(::GetDlgItem(calculation, IDC_CLOSING_LIST), &list);
+        CRect place;
+        tolerance.GetWindowRect(&place);
+        EXPECT_GE(place.top, list.bottom) << id;
+        EXPECT_GT(place.left, list.left) << id;
+        tolerance.DestroyWindow();
+    }
+    calculation.DestroyWindow();
 }
 
 TEST(DistributionDialogTemplate, HasRoomForThePlot)
