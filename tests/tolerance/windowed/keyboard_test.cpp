@@ -7,33 +7,9 @@ template <class Controls>
 class Keyboard : public ToleranceDialogTest<Controls>
 {
 protected:
-    /// As the user's Tab does it: the focused button becomes the one that Enter presses.
-    void FocusOn(int control) const
+    std::vector<int> TabOrderLoaded(int first, std::size_t count)
     {
-        ::SendMessageW(this->dialog->m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(this->Window(control)), TRUE);
-    }
-
-    /// The control that has the focus; inside the box, the box.
-    int Focused() const
-    {
-        HWND window = ::GetFocus();
-        while (window != nullptr && ::GetParent(window) != this->dialog->m_hWnd)
-            window = ::GetParent(window);
-        return window == nullptr ? 0 : ::GetDlgCtrlID(window);
-    }
-
-    /// Where the focus goes from `first` on with each Tab.
-    std::vector<int> TabOrder(int first, std::size_t count)
-    {
-        std::vector<int> order;
-        std::vector<ModalScript::Step> steps{[this, first] { FocusOn(first); }};
-        for (std::size_t i = 0; i < count; ++i)
-            steps.push_back([this, &order] {
-                order.push_back(Focused());
-                PostKey(::GetFocus(), VK_TAB);
-            });
-        this->RunLoaded(FreeDimension(), steps);
-        return order;
+        return this->TabOrder(first, count, {[this] { this->Load(FreeDimension()); }});
     }
 };
 using Dialogs = testing::Types<LinkDialog, ClosingDialog>;
@@ -87,14 +63,14 @@ TYPED_TEST(Keyboard, CancelsByEnterOnTheCancelButton)
 TEST_F(LinkKeyboard, WalksTheControlsAsTheyStand)
 {
     EXPECT_EQ(
-        TabOrder(IDC_LINK_NAME, 10),
+        TabOrderLoaded(IDC_LINK_NAME, 10),
         (std::vector<int>{IDC_LINK_NAME, IDC_LINK_DIRECTION, IDC_LINK_FIELD, IDC_LINK_FILTER, IDC_LINK_UPPER_DEV,
                           IDC_LINK_LOWER_DEV, IDC_LINK_WEIGHT_FIXED, IDC_LINK_OK, IDC_LINK_CANCEL, IDC_LINK_APPLY}));
 }
 
 TEST_F(ClosingKeyboard, WalksTheControlsAsTheyStand)
 {
-    EXPECT_EQ(TabOrder(IDC_CLOSING_FIELD, 6),
+    EXPECT_EQ(TabOrderLoaded(IDC_CLOSING_FIELD, 6),
               (std::vector<int>{IDC_CLOSING_FIELD, IDC_CLOSING_FILTER, IDC_CLOSING_UPPER_DEV, IDC_CLOSING_LOWER_DEV,
                                 IDC_CLOSING_OK, IDC_CLOSING_CANCEL}));
 }

@@ -11,14 +11,8 @@
 
 #include "fake_gauge_base.h"
 #include "interface/notifications.h"
-#include "modal_script.h"
-#include "platform/moduleskin/module_skin.h"
 #include "platform/moduleskin/resource.h"
-#include "released_pages.h"
-#include "tests/support/framework_printers.h"
-#include "tests/support/input.h"
-#include "tests/support/message_box_guard.h"
-#include "tests/support/recording_window.h"
+#include "tests/support/modal_dialog_test.h"
 #include "tolerance/edit_close_tol_dlg.h"
 #include "tolerance/edit_tol_dlg.h"
 
@@ -94,14 +88,6 @@ inline void PrintTo(const CDimParams& params, std::ostream* out)
     *out << params.weightFixed << ' ' << params.increasing << ' ' << params.dimKind;
 }
 
-inline CString ResourceText(UINT id)
-{
-    const CModuleSkin skin(kModuleCalcTol);
-    CString text;
-    text.LoadString(id);
-    return text;
-}
-
 inline CDimParams EmptyRecord()
 {
     CDimParams params;
@@ -112,13 +98,19 @@ inline CDimParams EmptyRecord()
 /// A dialog with a host, a main window, and a small library: fields H6, H7, k6, k7, of which H7 and k6 are listed; for
 /// every size H7 is +21/0 and k6 +15/+2 micrometres.
 template <class Controls>
-class ToleranceDialogTest : public testing::Test
+class ToleranceDialogTest : public ModalDialogTest<typename Controls::Dialog>
 {
 protected:
-    using Dialog = typename Controls::Dialog;
+    using Base = ModalDialogTest<typename Controls::Dialog>;
+    using Base::dialog;
+    using Base::host;
+    using Base::Run;
+    using Base::Window;
+    using typename Base::Dialog;
 
-    ToleranceDialogTest() : dialog(std::make_unique<OnReleasedPages<Dialog>>(&host))
+    ToleranceDialogTest()
     {
+        dialog = std::make_unique<OnReleasedPages<Dialog>>(&host);
         FakeGaugeBase& library = TheGaugeBase();
         library = FakeGaugeBase{};
         library.first = {L"H", L"k"};
@@ -126,30 +118,6 @@ protected:
         library.shortList = {L"H7", L"k6"};
         library.fields = {{"H7", {.lower = 0, .upper = 21}}, {"k6", {.lower = 2, .upper = 15}}};
         dialog->SetHostWindow(&host);
-        AfxGetThread()->m_pMainWnd = &host;
-    }
-    ~ToleranceDialogTest() override { AfxGetThread()->m_pMainWnd = nullptr; }
-
-    /// Does something inside every notification.
-    void OnNotification(std::function<void(UINT code)> action)
-    {
-        host.OnReceived([action](const ReceivedMessage& received) -> std::optional<LRESULT> {
-            if (received.message != WM_CHAR || received.lParam != kNotificationMark)
-                return std::nullopt;
-            action(static_cast<UINT>(received.wParam));
-            return 0;
-        });
-    }
-
-    /// The codes of the notifications so far.
-    std::vector<WPARAM> Codes() const { return host.Notifications(); }
-
-    /// The caller's resource context ends when the dialog is open: from then on the dialog needs its own.
-    INT_PTR Run(std::vector<ModalScript::Step> steps)
-    {
-        auto skin = std::make_unique<CModuleSkin>(kModuleCalcTol);
-        steps.insert(steps.begin(), [&skin] { skin.reset(); });
-        return script.Run(*dialog, std::move(steps), [this] { return dialog != nullptr && dialog->m_hWnd != nullptr; });
     }
 
     /// Runs the dialog with a dimension loaded from outside, as a host does.
@@ -165,36 +133,12 @@ protected:
                              params.upperDev, params.lowerDev, params.dimKind, params.increasing);
     }
 
-    HWND Window(int control) const { return ::GetDlgItem(dialog->m_hWnd, control); }
-
-    CString Text(int control) const
-    {
-        wchar_t text[300] = L"";
-        ::GetWindowTextW(Window(control), text, 300);
-        return text;
-    }
-
-    void Write(int control, const wchar_t* text) const { ::SetWindowTextW(Window(control), text); }
-
-    bool IsEnabled(int control) const { return ::IsWindowEnabled(Window(control)) != FALSE; }
-    bool IsShown(int control) const { return (::GetWindowLongPtrW(Window(control), GWL_STYLE) & WS_VISIBLE) != 0; }
-    bool IsChecked(int control) const { return ::SendMessageW(Window(control), BM_GETCHECK, 0, 0) == BST_CHECKED; }
-
     /// Which of the controls take input now.
     std::vector<int> Enabled(std::vector<int> controls) const
     {
-        std::erase_if(controls, [this](int control) { return !IsEnabled(control); });
+        std::erase_if(controls, [this](int control) { return !this->IsEnabled(control); });
         return controls;
     }
-
-    /// A command of a button, whether or not it can be clicked now.
-    void Command(int button) const
-    {
-        ::SendMessageW(dialog->m_hWnd, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
-                       reinterpret_cast<LPARAM>(Window(button)));
-    }
-
-    void Click(int button) const { ::SendMessageW(Window(button), BM_CLICK, 0, 0); }
 
     HWND FieldEdit() const
     {
@@ -230,8 +174,4 @@ protected:
 
     const CDimParams& Record() const { return dialog->Params(); }
     std::vector<DimTolCall>& Calls() const { return TheGaugeBase().calls; }
-
-    RecordingWindow host;
-    std::unique_ptr<Dialog> dialog;
-    ModalScript script;
 };
