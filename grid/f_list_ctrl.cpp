@@ -33,8 +33,15 @@ CFListCtrl::~CFListCtrl()
 {
     for (POSITION position = m_topRows.GetHeadPosition(); position != nullptr;)
         delete m_topRows.GetNext(position);
+    DeleteColumns();
+}
+
+void CFListCtrl::DeleteColumns()
+{
     for (int column = 0; column < ColumnCount(); ++column)
         delete m_columns[column];
+    m_columns.RemoveAll();
+    m_treeColumn = -1;
 }
 
 // A control of a template exists already when the grid is attached to it, so it never sees WM_CREATE here.
@@ -59,6 +66,7 @@ void CFListCtrl::OnDestroy()
     while (CFListRow* const row = FirstTopRow())
         DeleteRow(row->Key());
     CListCtrlWithCustomDraw::OnDestroy();
+    DeleteColumns();  // a next window begins without any
 }
 
 // An open editor stands on its cell's place and closes before that place moves.

@@ -160,6 +160,7 @@ private:
         CFListCtrl& m_grid;
     };
 
+    void DeleteColumns();
     // rows
     RowKey Attach(CFListRow* row, CFListRow* parent);
     bool IsShown(const CFListRow& row) const;

@@ -295,3 +295,13 @@ TEST(GridControl, RowsGoWithTheWindow)
     EXPECT_EQ(window.grid.RowCount(), 0);
     EXPECT_EQ(window.grid.FirstTopRow(), nullptr);
 }
+
+TEST(GridControl, ColumnsGoWithTheWindow)
+{
+    GridWindow window;
+    window.grid.InsertFColumn(0, L"", LVCFMT_LEFT, 100, true);
+    window.grid.InsertFColumn(1, L"", LVCFMT_LEFT, 100, false);
+    window.grid.DestroyWindow();
+    EXPECT_EQ(window.grid.ColumnCount(), 0);
+    EXPECT_EQ(window.grid.TreeColumn(), -1);
+}
