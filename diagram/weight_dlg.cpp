@@ -169,7 +169,7 @@ void CWeightDlg::ShowChain()
     SetDlgItemText(IDC_WEIGHT_NAME, L"");
     SetDlgItemText(IDC_WEIGHT_VALUE, L"");
     m_slider.SetPos(kSmallestWeight);
-    m_slider.EnableWindow(FALSE);
+    EnableSlider(false);
 }
 
 void CWeightDlg::ShowLink(const CFListCtrl::CFListRow& row)
@@ -185,7 +185,15 @@ void CWeightDlg::ShowLink(const CFListCtrl::CFListRow& row)
     if (!isFixed && fixed != ResourceText(IDS_WEIGHT_FIXED_NO))
         return;
     m_slider.SetPos(::_wtoi(row.Text(kWeightColumn)));
-    m_slider.EnableWindow(isFixed ? FALSE : TRUE);
+    EnableSlider(!isFixed);
+}
+
+// A disabled control must not keep the focus: no key would reach the dialog.
+void CWeightDlg::EnableSlider(bool enable)
+{
+    if (!enable && ::GetFocus() == m_slider.m_hWnd)
+        m_list.SetFocus();
+    m_slider.EnableWindow(enable ? TRUE : FALSE);
 }
 
 void CWeightDlg::OnHScroll(UINT code, UINT position, CScrollBar* bar)

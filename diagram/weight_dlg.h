@@ -46,6 +46,7 @@ private:
     void SelectRow(RowKey key);
     void ShowChain();
     void ShowLink(const CFListCtrl::CFListRow& row);
+    void EnableSlider(bool enable);
     void OnSliderMoved();
 
     CFListCtrl m_list;
