@@ -99,6 +99,16 @@ void CMainFrame::ShowDrawing(const Drawing& drawing)
     SetWindowText(m_title.IsEmpty() ? CString(AfxGetAppName()) : title);
 }
 
+CString CMainFrame::Prompt() const
+{
+    return m_statusBar.GetText(kPromptPart);
+}
+
+CString CMainFrame::DimensionStatus() const
+{
+    return m_statusBar.GetText(kDimensionPart);
+}
+
 // A dialog of the module's that is open ends first: its message loop is still running around this handler.
 void CMainFrame::OnClose()
 {
@@ -233,8 +243,16 @@ void CMainFrame::OnOpenDialog()
 {
     if (m_protocol.HasWindow())
         GoToDialog();
-    else if (!m_protocol.Open(m_title))
+    else if (!OpenCalculation(m_title))
         AfxMessageBox(IDS_DIALOG_FAILED, MB_OK | MB_ICONSTOP);
+}
+
+bool CMainFrame::OpenCalculation(const std::optional<CString>& label)
+{
+    if (!m_protocol.Open(label))
+        return false;
+    PlaceBeside(m_protocol.Dialog()->GetSafeHwnd(), m_hWnd);
+    return true;
 }
 
 void CMainFrame::OnGoToDialog()

@@ -23,8 +23,15 @@ public:
     const DrawingObjects& Objects() const { return m_objects; }
     ChainProtocol& Protocol() { return m_protocol; }
     CSheetView& Sheet() { return m_sheet; }
-    CString Prompt() const { return m_statusBar.GetText(0); }
+    /// What the status line tells the user to do next.
+    CString Prompt() const;
+    /// What it tells of the highlighted dimension.
+    CString DimensionStatus() const;
 
+    /// Opens the calculation dialog, beside this window where the screen has room. Without a label the module gets
+    /// none.
+    /// @return  false when it can't be opened
+    bool OpenCalculation(const std::optional<CString>& label);
     /// What a click on the dimension does: loads it into the open tolerance dialog, which then gets the focus.
     void ClickDimension(const DrawingObject& object);
     /// Gives the focus to the foremost of the module's windows that can take it.

@@ -1,5 +1,7 @@
 #include "host/owned_windows.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -36,4 +38,19 @@ HWND ForemostOwnedWindow(HWND owner)
     Search search = {owner, nullptr};
     EnumThreadWindows(GetCurrentThreadId(), Look, reinterpret_cast<LPARAM>(&search));
     return search.found;
+}
+
+void PlaceBeside(HWND window, HWND other)
+{
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof(monitor);
+    RECT place = {};
+    RECT beside = {};
+    if (!GetMonitorInfoW(MonitorFromWindow(other, MONITOR_DEFAULTTONEAREST), &monitor) ||
+        !GetWindowRect(window, &place) || !GetWindowRect(other, &beside))
+        return;
+    const RECT& work = monitor.rcWork;
+    const LONG left = std::max(work.left, std::min(beside.right, work.right - (place.right - place.left)));
+    const LONG top = std::max(work.top, std::min(beside.top, work.bottom - (place.bottom - place.top)));
+    SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

@@ -16,7 +16,7 @@ void PlayedFrame::OpenDialog(const std::optional<std::string>& label)
     if (m_frame.Protocol().HasWindow())
         throw std::runtime_error("the calculation dialog is open already");
     const std::optional<CString> text = label ? std::optional(FromUtf8(*label)) : std::nullopt;
-    if (!m_frame.Protocol().Open(text))
+    if (!m_frame.OpenCalculation(text))
         throw std::runtime_error("the calculation dialog can't be opened");
 }
 
