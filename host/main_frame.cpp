@@ -42,14 +42,16 @@ constexpr int kPromptPart = 0;
 constexpr int kDimensionPart = 1;
 constexpr int kSmallestWidth = 640;  // of the window, units of 1/96 inch: in a smaller one texts hide the drawing
 constexpr int kSmallestHeight = 480;
+constexpr int kDialogWidth = 570;        // room for the calculation dialog, units
+constexpr int kStartHeightPercent = 80;  // of the screen
 constexpr int kUsualPixelsPerInch = 96;
-constexpr int kDimensionPartShare = 3;  // the right part of the status line takes a third
+constexpr int kDimensionPartWidth = 190;  // of the status line's right part, units
 
-CSize SmallestSize()
+/// A size given in units of 1/96 inch, in pixels.
+CSize SizeOf(int width, int height)
 {
     const int pixelsPerInch = CClientDC(nullptr).GetDeviceCaps(LOGPIXELSY);
-    return {::MulDiv(kSmallestWidth, pixelsPerInch, kUsualPixelsPerInch),
-            ::MulDiv(kSmallestHeight, pixelsPerInch, kUsualPixelsPerInch)};
+    return {::MulDiv(width, pixelsPerInch, kUsualPixelsPerInch), ::MulDiv(height, pixelsPerInch, kUsualPixelsPerInch)};
 }
 
 void Enable(CMenu& menu, UINT command, bool enabled)
@@ -74,17 +76,26 @@ int CMainFrame::OnCreate(LPCREATESTRUCT creation)
     if (!created)
         return -1;
     ShowNextPrompt();
-    CRect place;
-    GetWindowRect(&place);
-    const CSize smallest = SmallestSize();  // Windows asks for it too early when it creates the window
-    SetWindowPos(nullptr, 0, 0, std::max<int>(place.Width(), smallest.cx), std::max<int>(place.Height(), smallest.cy),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    PlaceAtStart();
     return 0;
+}
+
+// At the left of the screen, so that the calculation dialog has room beside the drawing.
+void CMainFrame::PlaceAtStart()
+{
+    RECT work = {};
+    if (!::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0))
+        return;
+    const CRect screen(work);
+    const CSize smallest = SizeOf(kSmallestWidth, kSmallestHeight);
+    const int width = std::max<int>(smallest.cx, screen.Width() - SizeOf(kDialogWidth, 0).cx);
+    const int height = std::max<int>(smallest.cy, ::MulDiv(screen.Height(), kStartHeightPercent, 100));
+    SetWindowPos(nullptr, screen.left, screen.top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 LRESULT CMainFrame::OnGetMinMaxInfo(WPARAM, LPARAM info)
 {
-    const CSize smallest = SmallestSize();
+    const CSize smallest = SizeOf(kSmallestWidth, kSmallestHeight);
     reinterpret_cast<MINMAXINFO*>(info)->ptMinTrackSize = {smallest.cx, smallest.cy};
     return 0;
 }
@@ -141,7 +152,7 @@ void CMainFrame::PlaceChildren()
     GetClientRect(&area);
     CRect bar;
     m_statusBar.GetWindowRect(&bar);
-    int edges[] = {area.Width() - area.Width() / kDimensionPartShare, -1};
+    int edges[] = {area.Width() - static_cast<int>(SizeOf(kDimensionPartWidth, 0).cx), -1};
     m_statusBar.SetParts(static_cast<int>(std::size(edges)), edges);
     m_sheet.MoveWindow(0, 0, area.Width(), std::max(0, area.Height() - bar.Height()));
 }

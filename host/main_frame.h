@@ -71,6 +71,7 @@ private:
     void OnProtocolChanged() override;
 
     bool Pick(const DrawingObject& object);
+    void PlaceAtStart();
     void PlaceChildren();
     void ShowNextPrompt();
 

@@ -232,16 +232,14 @@ TEST_F(MainFrame, TheStatusLineSaysWhatToDoNext)
 {
     EXPECT_EQ(m_frame->Prompt(), L"Press Ctrl+D to open the calculation dialog.");
     Open();
-    EXPECT_EQ(m_frame->Prompt(), L"Choose a method and a command in the calculation dialog (F6 goes there).");
+    EXPECT_EQ(m_frame->Prompt(), L"Choose a method and a command in the calculation dialog (F6).");
     Begin(kLinkBegins);
-    EXPECT_EQ(m_frame->Prompt(),
-              L"Pick a dimension for the link dialog: click it, or choose it with Tab and press Enter.");
+    EXPECT_EQ(m_frame->Prompt(), L"Pick a dimension for the link dialog (click, or Tab and Enter).");
     m_frame->ClickDimension(Object("A1"));
-    EXPECT_EQ(m_frame->Prompt(), L"A1 is loaded: confirm it in the dialog (F6 goes there), or pick another dimension.");
+    EXPECT_EQ(m_frame->Prompt(), L"A1 is loaded: confirm it in the dialog (F6), or pick another one.");
     Notify(kChildCancelled);
     Begin(kClosingBegins);
-    EXPECT_EQ(m_frame->Prompt(),
-              L"Pick the dimension that closes the chain: click it, or choose it with Tab and press Enter.");
+    EXPECT_EQ(m_frame->Prompt(), L"Pick the dimension that closes the chain (click, or Tab and Enter).");
     m_frame->EnableWindow(FALSE);
     Begin(kLinkBegins);
     EXPECT_EQ(m_frame->Prompt(), L"Confirm or cancel the distribution dialog.");
