@@ -56,27 +56,49 @@ TEST_F(WeightDialogEnds, WhenItIsDeleted)
     EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
 }
 
-// The first rounds fill the system's and the framework's caches.
-TEST_F(WeightDialogEnds, LeavingNothingBehind)
+class WeightDialogLeaves : public WeightDialogTest
 {
-    const auto round = [this] {
-        MakeDialog();
-        Preselect(1);
+protected:
+    /// The first rounds fill the system's and the framework's caches.
+    static void ExpectNothingAfter(const std::function<void()>& round)
+    {
+        const auto cleanRound = [&] {
+            round();
+            PumpUntilIdle();
+            AfxGetThread()->OnIdle(0);  // the end of temporary objects
+        };
+        for (int i = 0; i < 3; ++i)
+            cleanRound();
+        const int gdiObjects = GdiObjectCount();
+        const std::size_t heapBlocks = HeapBlockCount();
+        for (int i = 0; i < 5; ++i)
+            cleanRound();
+        EXPECT_EQ(GdiObjectCount(), gdiObjects);
+        EXPECT_EQ(HeapBlockCount(), heapBlocks);
+    }
+
+    void Use()
+    {
         Run({[this] { Slide(9); }, [this] { PostRowClick(2); }, [this] { PostRowClick(3); },
              [this] { PostRowClick(0); }, [this] { Click(IDOK); }});
-        dialog.reset();
         host.Forget();
-        PumpUntilIdle();
-        AfxGetThread()->OnIdle(0);  // the end of temporary objects
-    };
-    for (int i = 0; i < 3; ++i)
-        round();
-    const int gdiObjects = GdiObjectCount();
-    const std::size_t heapBlocks = HeapBlockCount();
-    for (int i = 0; i < 5; ++i)
-        round();
-    EXPECT_EQ(GdiObjectCount(), gdiObjects);
-    EXPECT_EQ(HeapBlockCount(), heapBlocks);
+    }
+};
+
+TEST_F(WeightDialogLeaves, NothingBehindWhenItIsDeleted)
+{
+    ExpectNothingAfter([this] {
+        MakeDialog();
+        Preselect(1);
+        Use();
+        dialog.reset();
+    });
+}
+
+TEST_F(WeightDialogLeaves, NothingBehindWhenItIsOpenedAgain)
+{
+    Preselect(1);
+    ExpectNothingAfter([this] { Use(); });
 }
 
 }  // namespace
