@@ -1,8 +1,12 @@
 // The sample host: a small program with a drawing that drives the calculation dialog through its exported interface.
 
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <optional>
-#include <string_view>
+#include <string>
+#include <vector>
 
 #include <afxwin.h>
 #include <shellapi.h>
@@ -32,6 +36,13 @@ std::vector<std::string> Arguments()
         arguments.push_back(ToUtf8(CString(words[i])));
     ::LocalFree(words);
     return arguments;
+}
+
+/// Whether a play was asked for, also in a command line with mistakes: nobody is there then to close a message box.
+bool AsksForPlay(const std::vector<std::string>& arguments)
+{
+    return std::any_of(arguments.begin(), arguments.end(),
+                       [](const std::string& argument) { return argument.starts_with("--play"); });
 }
 
 std::filesystem::path ToPath(const std::string& utf8)
@@ -64,10 +75,11 @@ public:
 
     BOOL InitInstance() override
     {
-        const StandardOutput output;
+        const std::vector<std::string> arguments = Arguments();
+        const StandardOutput output(!AsksForPlay(arguments));
         try
         {
-            return Start();
+            return Start(ParseCommandLine(arguments));
         }
         catch (const CommandLineExit& exit)
         {
@@ -97,14 +109,13 @@ public:
     {
         if (m_player == nullptr)
             return m_exitCode;
-        StandardOutput().Complain("the main window was closed before the play had ended\n");
+        StandardOutput(false).Complain("the main window was closed before the play had ended\n");
         EndProcess(kFailed);  // the player and what it plays in refer to the window
     }
 
 private:
-    BOOL Start()
+    BOOL Start(const CommandLine& commandLine)
     {
-        const CommandLine commandLine = ParseCommandLine(Arguments());
         std::optional<Script> script;
         if (commandLine.play)
             script = ParseScriptFile(ToPath(*commandLine.play));

@@ -17,37 +17,41 @@ bool HasHandle(DWORD which)
 
 bool JoinConsoleOfParent()
 {
-    if (!::AttachConsole(ATTACH_PARENT_PROCESS))
-        return false;
-    ::SetConsoleOutputCP(CP_UTF8);
-    return std::freopen("CONOUT$", "w", stdout) != nullptr && std::freopen("CONOUT$", "w", stderr) != nullptr;
+    const bool isJoined = ::AttachConsole(ATTACH_PARENT_PROCESS) != FALSE;
+    if (isJoined)
+        ::SetConsoleOutputCP(CP_UTF8);
+    return isJoined;
 }
 
-void Write(std::FILE* stream, const std::string& text)
+void Show(std::FILE* stream, bool hasStream, const std::string& text, bool mayAsk, UINT icon)
 {
-    std::fputs(text.c_str(), stream);
-    std::fflush(stream);
+    if (hasStream)
+    {
+        std::fputs(text.c_str(), stream);
+        std::fflush(stream);
+    }
+    else if (mayAsk)
+        AfxMessageBox(FromUtf8(text), MB_OK | icon);
 }
 
 }  // namespace
 
-StandardOutput::StandardOutput()
-    : m_isThere((HasHandle(STD_OUTPUT_HANDLE) && HasHandle(STD_ERROR_HANDLE)) || JoinConsoleOfParent())
+StandardOutput::StandardOutput(bool mayAsk)
+    : m_mayAsk(mayAsk), m_hasOutput(HasHandle(STD_OUTPUT_HANDLE)), m_hasErrors(HasHandle(STD_ERROR_HANDLE))
 {
+    // A stream that is redirected stays so; only the missing ones go to the console.
+    if ((m_hasOutput && m_hasErrors) || !JoinConsoleOfParent())
+        return;
+    m_hasOutput = m_hasOutput || std::freopen("CONOUT$", "w", stdout) != nullptr;
+    m_hasErrors = m_hasErrors || std::freopen("CONOUT$", "w", stderr) != nullptr;
 }
 
 void StandardOutput::Tell(const std::string& text) const
 {
-    if (m_isThere)
-        Write(stdout, text);
-    else
-        AfxMessageBox(FromUtf8(text), MB_OK | MB_ICONINFORMATION);
+    Show(stdout, m_hasOutput, text, m_mayAsk, MB_ICONINFORMATION);
 }
 
 void StandardOutput::Complain(const std::string& text) const
 {
-    if (m_isThere)
-        Write(stderr, text);
-    else
-        AfxMessageBox(FromUtf8(text), MB_OK | MB_ICONSTOP);
+    Show(stderr, m_hasErrors, text, m_mayAsk, MB_ICONSTOP);
 }

@@ -3,17 +3,20 @@
 #include <string>
 
 /// The program's standard streams. A program with windows has none of its own when it is started from the desktop or
-/// from a console without redirection: in a console it then writes there.
+/// from a console without redirection: in a console it then writes there, on a desktop it shows a message box.
 class StandardOutput
 {
 public:
-    StandardOutput();
+    /// @param mayAsk  whether somebody is there to close a message box
+    explicit StandardOutput(bool mayAsk);
 
-    /// Writes to the standard output; where there is none the text is shown in a message box.
+    /// Writes to the standard output.
     void Tell(const std::string& text) const;
-    /// The same for the error output.
+    /// Writes to the error output.
     void Complain(const std::string& text) const;
 
 private:
-    bool m_isThere;
+    bool m_mayAsk;
+    bool m_hasOutput;
+    bool m_hasErrors;
 };
