@@ -5,6 +5,7 @@
 #include "drawing/scoped_select.h"
 
 BEGIN_MESSAGE_MAP(CPictureFrame, CStatic)
+    ON_WM_DESTROY()
     ON_WM_ERASEBKGND()
     ON_WM_PAINT()
 END_MESSAGE_MAP()
@@ -108,6 +109,12 @@ void CPictureFrame::PaintBackground(CDC& dc)
     CRect area;
     GetClientRect(&area);
     ::FillRect(dc.GetSafeHdc(), &area, brush != nullptr ? brush : ::GetSysColorBrush(COLOR_3DFACE));
+}
+
+void CPictureFrame::OnDestroy()
+{
+    m_picture.DeleteObject();
+    CStatic::OnDestroy();
 }
 
 BOOL CPictureFrame::OnEraseBkgnd(CDC* /*dc*/)

@@ -8,7 +8,7 @@ struct DisplayList;
 /// painted again (covered and uncovered, moved on screen, hidden and shown).
 ///
 /// The control is attached with SubclassDlgItem. Each operation below needs the window, shows its result at once and
-/// leaves nothing to be painted later.
+/// leaves nothing to be painted later. The picture goes with the window, whose object may live on.
 class CPictureFrame : public CStatic
 {
 public:
@@ -25,6 +25,7 @@ public:
     void Clear();
 
 protected:
+    afx_msg void OnDestroy();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnPaint();
     DECLARE_MESSAGE_MAP()

@@ -6,6 +6,7 @@
 #include "drawing/kind_bitmap.h"
 #include "gdi_exhaustion.h"
 #include "platform/moduleskin/module_skin.h"
+#include "tests/support/resource_count.h"
 #include "white_canvas.h"
 
 namespace
@@ -191,6 +192,17 @@ TEST_F(PictureFrame, LeavesNothingToBePaintedLater)
     ASSERT_TRUE(::GetUpdateRect(m_frame.m_hWnd, nullptr, FALSE));
     m_frame.ShowDrawing(GreenBlock());
     EXPECT_FALSE(::GetUpdateRect(m_frame.m_hWnd, nullptr, FALSE));
+}
+
+// The object may live on, as that of a dialog does whose window was destroyed.
+TEST_F(PictureFrame, KeepsNoPictureWithoutItsWindow)
+{
+    const int before = GdiObjectCount();
+    m_frame.ShowDrawing(GreenBlock());
+    ASSERT_GT(GdiObjectCount(), before);
+    ::DestroyWindow(m_frame.m_hWnd);
+
+    EXPECT_LE(GdiObjectCount(), before);
 }
 
 TEST_F(PictureFrame, ShowsAPictureThatItWasGivenWhileHidden)

@@ -170,6 +170,10 @@ class Roads(ProgramTest):
             "analytic A0=0.25 upper=0.783 lower=0.017 ES0=0.533 EI0=-0.233",
             "probabilistic A0=0.25 upper=nan lower=nan ES0=nan EI0=nan D0=-0.002941889 T=nan"])
 
+    def test_dialog_opened_again(self):
+        run = self.run_host("--play", HERE / "opened_again.play")
+        self.assertEqual(run.code, 0, run.out + run.err)
+
     def test_editing(self):
         run = self.run_host("--play", HERE / "editing.play")
         self.assertEqual(run.code, 0, run.out + run.err)
