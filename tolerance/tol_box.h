@@ -13,7 +13,7 @@ public:
     /// Adds an entry and returns its index. (The caller knows how many there are: asking the box for each of a thousand
     /// entries takes a third of the time.)
     int Insert(int index, const CString& code, bool listed);
-    /// The code of an entry, cut at 255 characters; empty for an index without an entry.
+    /// The code of an entry, cut at 255 characters; empty for an index behind the last one.
     CString Code(int index) const;
     /// What stands in the edit part.
     CString EditText() const;

@@ -79,7 +79,7 @@ bool ToleranceEntry::ShowKind(std::int32_t dimKind)
 void ToleranceEntry::Store(const CDimParams& loaded)
 {
     m_record = loaded;
-    m_answeredEdit = false;
+    m_answeredSelection = false;
     if (loaded.dimKind != kWithoutTolerance)
     {
         ShowFieldDeviations();
@@ -93,14 +93,16 @@ void ToleranceEntry::Store(const CDimParams& loaded)
 }
 
 // Picking an entry comes as a selection change alone or together with edit changes before or after it, as the system
-// likes. So a text that stays as it was is no edit, and a selection whose edit change was answered has its answer.
+// likes. So a text that stays as it was is no edit, and a selection whose edit change was answered has its answer. A
+// text that was typed is no selection.
 void ToleranceEntry::OnFieldEdited()
 {
     const CString text = m_fieldBox.EditText();
     if (m_writing || text == m_record.tolField)
         return;
     m_record.tolField = text;
-    m_answeredEdit = true;
+    const int selected = m_fieldBox.GetCurSel();
+    m_answeredSelection = selected != CB_ERR && m_fieldBox.Code(selected) == text;
     ShowFieldDeviations();
 }
 
@@ -110,9 +112,9 @@ void ToleranceEntry::OnFieldSelected()
     if (m_writing || selected == CB_ERR)
         return;
     const CString code = m_fieldBox.Code(selected);
-    const bool answered = m_answeredEdit && code == m_record.tolField;
+    const bool answered = m_answeredSelection && code == m_record.tolField;
     m_record.tolField = code;
-    m_answeredEdit = false;
+    m_answeredSelection = false;
     if (!answered)
         ShowFieldDeviations();
 }
@@ -127,7 +129,7 @@ void ToleranceEntry::OnFilterClicked()
     if (selected == CB_ERR)
         return;
     m_record.tolField = m_fieldBox.Code(selected);
-    m_answeredEdit = false;
+    m_answeredSelection = false;
     ShowFieldDeviations();
 }
 
@@ -174,7 +176,7 @@ void ToleranceEntry::Reset()
 {
     m_record = CDimParams{};
     m_record.increasing = 1;
-    m_answeredEdit = false;
+    m_answeredSelection = false;
     if (!::IsWindow(m_dialog.m_hWnd))
         return;
     ShowTexts(m_record);

@@ -76,8 +76,8 @@ private:
     CDimParams& m_record;
     const ToleranceControls m_controls;
     CPictureFrame m_picture;
-    bool m_writing = false;       // the box is changed by the program: its events are not the user's
-    bool m_answeredEdit = false;  // the latest event of the box was an edit change, and its deviations are shown
+    bool m_writing = false;            // the box is changed by the program: its events are not the user's
+    bool m_answeredSelection = false;  // the latest edit change came from a picked entry, its deviations are shown
     bool m_endedByHost = false;
     Lifetime m_lifetime;
 };

@@ -95,6 +95,18 @@ TYPED_TEST(FieldBoxEvents, AskTheLibraryOnceForThePickOfTheEntryThatIsShown)
                                         }});
 }
 
+TYPED_TEST(FieldBoxEvents, AskTheLibraryOnceForThePickOfTheEntryThatWasTyped)
+{
+    this->RunLoaded(FreeDimension(), {[this] { this->TypeField(L"k6"); }, [this] { this->DropDown(); },
+                                      [this] {
+                                          this->Calls().clear();
+                                          this->PostPick(2);
+                                      },
+                                      [this] {
+                                          EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "k6"}}));
+                                      }});
+}
+
 // Some systems send the edit change after the selection change.
 TYPED_TEST(FieldBoxEvents, AskTheLibraryOnceWhenTheEditChangeComesLast)
 {
