@@ -176,7 +176,7 @@ int CString::Replace(LPCWSTR former, LPCWSTR replacement)
         ++count;
     }
     if (count > 0)
-        m_text = result.append(m_text, done, std::wstring::npos);
+        m_text = result.append(m_text, done);
     return count;
 }
 

@@ -48,8 +48,10 @@ public:
     TYPE RemoveTail() { return Unlink(Checked(m_tail)); }
     void RemoveAll()
     {
-        while (m_head != nullptr)
-            Unlink(m_head);
+        for (Node* node = std::exchange(m_head, nullptr); node != nullptr;)
+            delete std::exchange(node, node->next);
+        m_tail = nullptr;
+        m_count = 0;
     }
 
     // walking; the null POSITION is the end
