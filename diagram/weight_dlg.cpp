@@ -93,11 +93,17 @@ BOOL CWeightDlg::OnInitDialog()
     return FALSE;  // the list has the focus
 }
 
+// The object may be kept much longer than its window.
+void CWeightDlg::PostNcDestroy()
+{
+    m_images.DeleteImageList();
+    CDialog::PostNcDestroy();
+}
+
 void CWeightDlg::PrepareList()
 {
     CBitmap images;
     images.LoadBitmap(IDB_CHAIN_IMAGES);
-    m_images.DeleteImageList();
     m_images.Create(kImageSize, kImageSize, ILC_COLOR16 | ILC_MASK, 0, kImageGrowth);
     m_images.Add(&images, kTransparent);
 

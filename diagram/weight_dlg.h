@@ -33,6 +33,7 @@ public:
 
 protected:
     BOOL OnInitDialog() override;
+    void PostNcDestroy() override;
     /// Lists the links below the chain row.
     virtual void FillRows();
 

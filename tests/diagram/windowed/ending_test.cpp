@@ -101,4 +101,17 @@ TEST_F(WeightDialogLeaves, NothingBehindWhenItIsOpenedAgain)
     ExpectNothingAfter([this] { Use(); });
 }
 
+TEST_F(WeightDialogLeaves, NoGdiObjectsBehindWhenItIsKept)
+{
+    for (int i = 0; i < 3; ++i)
+    {
+        MakeDialog();
+        Use();
+    }
+    MakeDialog();
+    const int gdiObjects = GdiObjectCount();
+    Use();
+    EXPECT_EQ(GdiObjectCount(), gdiObjects);
+}
+
 }  // namespace
