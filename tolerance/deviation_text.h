@@ -28,6 +28,5 @@ std::int32_t CheckDeviations(DeviationPair& texts);
 
 /// A deviation of the tolerance library as the edits show it: millimetres with three significant digits and a sign,
 /// "%+.3g" with "." under every locale. Empty for exactly 0 and for -0. Magnitudes below 0.0001 mm come in exponent
-/// form
-/// ("+5e-05"), which CheckDeviations refuses. NaN of either sign is "+nan", the infinities are "+inf" and "-inf".
+/// form ("+5e-05"), which CheckDeviations refuses. NaN of either sign is "+nan", the infinities are "+inf" and "-inf".
 std::string LibraryDeviationText(float micrometres);

@@ -4,6 +4,7 @@ namespace
 {
 
 using LinkAccepting = ToleranceDialogTest<LinkDialog>;
+using ClosingAccepting = ToleranceDialogTest<ClosingDialog>;
 
 template <class Controls>
 class Accepting : public ToleranceDialogTest<Controls>
@@ -205,6 +206,17 @@ TYPED_TEST(Accepting, GoesThroughAfterACorrection)
     EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{TypeParam::kAccepted}));
 }
 
+TEST_F(ClosingAccepting, NeedsNoName)
+{
+    CDimParams nameless = FreeDimension();
+    nameless.name = L"";
+    CDimParams told;
+    OnNotification([this, &told](UINT) { told = Record(); });
+    const INT_PTR result = RunLoaded(nameless, {[this] { Click(IDC_CLOSING_OK); }});
+    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(told, nameless);
+}
+
 TEST_F(LinkAccepting, RefusesAnEmptyName)
 {
     RunLoaded(FreeDimension(), {[this] {
@@ -258,6 +270,20 @@ TEST_F(LinkAccepting, MakesFlagsOfWhateverWasLoaded)
     RunLoaded(params, {[this] { Click(IDC_LINK_OK); }});
     EXPECT_EQ(told.weightFixed, 1);
     EXPECT_EQ(told.increasing, 1);
+}
+
+// The record of kind 2 is increasing, the box shows what was loaded, and the box is what counts.
+TEST_F(LinkAccepting, TakesTheDirectionOfKindTwoFromItsBox)
+{
+    CDimParams params = FreeDimension();
+    params.dimKind = 2;
+    CDimParams told;
+    OnNotification([this, &told](UINT) { told = Record(); });
+    RunLoaded(params, {[this] {
+                  EXPECT_EQ(Record().increasing, 1);
+                  Click(IDC_LINK_OK);
+              }});
+    EXPECT_EQ(told.increasing, 0);
 }
 
 TEST_F(LinkAccepting, KeepsTheDirectionWhenNoneIsSelected)

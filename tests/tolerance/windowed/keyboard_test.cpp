@@ -11,6 +11,8 @@ protected:
     {
         return this->TabOrder(first, count, {[this] { this->Load(FreeDimension()); }});
     }
+
+    bool IsDropped(int box) const { return ::SendMessageW(this->Window(box), CB_GETDROPPEDSTATE, 0, 0) != 0; }
 };
 using Dialogs = testing::Types<LinkDialog, ClosingDialog>;
 TYPED_TEST_SUITE(Keyboard, Dialogs, );
@@ -58,6 +60,56 @@ TYPED_TEST(Keyboard, CancelsByEnterOnTheCancelButton)
                                                              },
                                                              [] {}});
     EXPECT_EQ(result, IDCANCEL);
+}
+
+TYPED_TEST(Keyboard, LeavesTheListOfFieldsByEscAndStays)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                                          ::SetFocus(this->FieldEdit());
+                                          this->DropDown();
+                                      },
+                                      [this] {
+                                          ASSERT_TRUE(this->IsDropped(TypeParam::kField));
+                                          PostKey(::GetFocus(), VK_ESCAPE);
+                                      },
+                                      [this] {
+                                          EXPECT_FALSE(this->IsDropped(TypeParam::kField));
+                                          EXPECT_EQ(this->Text(TypeParam::kField), L"zz");
+                                          EXPECT_TRUE(this->Codes().empty());
+                                      }});
+}
+
+TYPED_TEST(Keyboard, TakesAFieldOfTheListByEnterAndStays)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                                          ::SetFocus(this->FieldEdit());
+                                          this->DropDown();
+                                          PostKey(::GetFocus(), VK_DOWN);
+                                          PostKey(::GetFocus(), VK_DOWN);
+                                          PostKey(::GetFocus(), VK_RETURN);
+                                      },
+                                      [this] {
+                                          EXPECT_FALSE(this->IsDropped(TypeParam::kField));
+                                          EXPECT_EQ(this->Text(TypeParam::kField), L"H7");
+                                          EXPECT_EQ(this->Text(TypeParam::kUpper), L"+0.021");
+                                          EXPECT_TRUE(this->Codes().empty());
+                                      }});
+}
+
+TEST_F(LinkKeyboard, LeavesTheListOfDirectionsByEscAndStays)
+{
+    RunLoaded(FreeDimension(), {[this] {
+                                    FocusOn(IDC_LINK_DIRECTION);
+                                    ::SendMessageW(Window(IDC_LINK_DIRECTION), CB_SHOWDROPDOWN, TRUE, 0);
+                                },
+                                [this] {
+                                    ASSERT_TRUE(IsDropped(IDC_LINK_DIRECTION));
+                                    PostKey(::GetFocus(), VK_ESCAPE);
+                                },
+                                [this] {
+                                    EXPECT_FALSE(IsDropped(IDC_LINK_DIRECTION));
+                                    EXPECT_TRUE(Codes().empty());
+                                }});
 }
 
 TEST_F(LinkKeyboard, WalksTheControlsAsTheyStand)

@@ -1,5 +1,3 @@
-#include "drawing/kind_bitmap.h"
-#include "platform/moduleskin/module_skin.h"
 #include "tests/drawing/windowed/gdi_exhaustion.h"
 #include "tolerance_dialog_test.h"
 
@@ -189,46 +187,44 @@ TYPED_TEST(Loading, DrawsNoPictureForKindZeroAndTakesItsTolerance)
                     }});
 }
 
+TYPED_TEST(Loading, LeavesThePictureBeforeForKindZero)
+{
+    CDimParams params = FreeDimension();
+    params.dimKind = 0;
+    this->RunLoaded(FreeDimension(), {[this, params] {
+                        const Pixels before = ShownPixels(this->Window(TypeParam::kPicture));
+                        this->Load(params);
+                        EXPECT_TRUE(this->IsShown(TypeParam::kPicture));
+                        EXPECT_EQ(DifferentPixels(ShownPixels(this->Window(TypeParam::kPicture)), before), 0);
+                    }});
+}
+
 TYPED_TEST(Loading, StoresAnUnknownKindAndShowsAnEmptyFrame)
 {
     CDimParams params = FreeDimension();
     params.dimKind = 9;
-    this->RunLoaded(params, {[this, params] {
+    this->RunLoaded(FreeDimension(), {[this, params] {
+                        this->Load(params);
                         EXPECT_TRUE(this->IsShown(TypeParam::kPicture));
+                        const Pixels shown = ShownPixels(this->Window(TypeParam::kPicture));
+                        EXPECT_EQ(shown.Count(shown.At(0, 0)), shown.width * shown.height);
                         EXPECT_EQ(this->Record(), params);
                     }});
 }
 
-// Some pixel of the frame must differ between two kinds; which ones is the bitmaps' business.
 TYPED_TEST(Loading, DrawsEachKindsPicture)
 {
-    std::vector<std::vector<COLORREF>> pictures;
-    std::vector<ModalScript::Step> steps;
-    for (const int kind : {1, 2, 3})
+    for (const auto& [kind, bitmap] : {std::pair{1, IDB_KIND_1}, std::pair{2, IDB_KIND_2}, std::pair{3, IDB_KIND_3}})
     {
-        steps.push_back([this, kind] {
-            CDimParams params = FreeDimension();
-            params.dimKind = kind;
-            this->Load(params);
-        });
-        steps.push_back([this, &pictures] {
-            const HDC dc = ::GetDC(this->Window(TypeParam::kPicture));
-            std::vector<COLORREF> pixels;
-            for (int y = 0; y < 40; ++y)
-                for (int x = 0; x < 60; ++x)
-                    pixels.push_back(::GetPixel(dc, x, y));
-            ::ReleaseDC(this->Window(TypeParam::kPicture), dc);
-            pictures.push_back(pixels);
-        });
+        SCOPED_TRACE(kind);
+        CDimParams params = FreeDimension();
+        params.dimKind = kind;
+        Pixels shown;
+        this->RunLoaded(params, {[&] { shown = ShownPixels(this->Window(TypeParam::kPicture)); }});
+        const Pixels expected = ResourcePicture(bitmap);
+        ASSERT_GT(expected.width, 0);
+        EXPECT_EQ(DifferentPixels(shown, expected), 0);
     }
-    this->Run(steps);
-    ASSERT_EQ(pictures.size(), 3U);
-    EXPECT_NE(pictures[0], pictures[1]);
-    EXPECT_NE(pictures[1], pictures[2]);
-    EXPECT_NE(pictures[0], pictures[2]);
-    for (const auto& picture : pictures)
-        EXPECT_FALSE(std::all_of(picture.begin(), picture.end(), [&](COLORREF pixel) { return pixel == picture[0]; }))
-            << "a picture of one colour";
 }
 
 // The texts are shown before the picture, the record is stored after it.
