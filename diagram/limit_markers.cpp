@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <limits>
 
 namespace
 {
@@ -49,11 +50,13 @@ bool IsLargest(double deviation, double largest)
 
 double Distance(double deviation, double largest, int reach)
 {
-    const double size = std::abs(deviation);
-    if (largest == 0.0 && size == 0.0)
+    if (!std::isfinite(deviation))
+        return std::numeric_limits<double>::quiet_NaN();
+    if (largest == 0.0)
         return 0.0;
-    if (IsLargest(deviation, largest) && std::isfinite(deviation))  // at the inset, where the quotient may fall short
+    if (IsLargest(deviation, largest))  // at the inset, where the quotient may fall short
         return reach;
+    const double size = std::abs(deviation);
     const double product = reach * size;
     return std::isfinite(product) ? product / largest : reach * (size / largest);
 }
@@ -82,11 +85,8 @@ LimitMarker Marker(double deviation, double distance, Limit limit, int centre)
 {
     const bool isRight = std::isnan(deviation) ? limit == Limit::Upper : deviation >= 0.0;
     LimitMarker marker;
-    if (std::isfinite(deviation))
-    {
-        if (const auto pixels = WholePixels(distance))
-            marker.x = isRight ? centre + *pixels : centre - *pixels;
-    }
+    if (const auto pixels = WholePixels(distance))
+        marker.x = isRight ? centre + *pixels : centre - *pixels;
     const int line = marker.x.value_or(centre);
     marker.labelX = isRight ? line + 1 : line;
     marker.labelAlign = isRight ? TextAlign::Left : TextAlign::Right;

@@ -116,6 +116,19 @@ TEST(DiagramGuards, LabelsWithoutAMarkerStandAtTheCentreLine)
     EXPECT_TRUE(HasLine(list, "text 200 120 right 000000 \"EI0\""));
 }
 
+// The finite deviations keep their columns: 14 at 140 pixels, 7 at 70.
+TEST(DiagramGuards, AnInfiniteComputedDeviationMovesNoOtherMarker)
+{
+    for (const DeviationCase& deviations : {DeviationCase{7, -7, 14, kInfinity}, DeviationCase{7, -7, -kInfinity, -14}})
+    {
+        const DisplayList list = LayoutChainDiagram(AnalyticInput(deviations));
+        SCOPED_TRACE(ToText(list));
+        EXPECT_TRUE(HasLine(list, "line 270 40 270 280"));
+        EXPECT_TRUE(HasLine(list, "line 130 40 130 280"));
+        EXPECT_EQ(MarkerLines(list), 3U);
+    }
+}
+
 TEST(DiagramGuards, HugeDeviationsKeepTheirProportion)
 {
     const DisplayList list = LayoutChainDiagram(AnalyticInput({1.6e308, -0.8e308, 0.8e308, -1.6e308}));
