@@ -93,8 +93,9 @@ private:
         const DiagramDeviations deviations = Deviations();
         const LimitMarkers markers = PlaceMarkers(deviations, m_input.width);
         WriteRequired(markers, kProbabilisticRows);
-        // Required limits in reversed order leave no shape to compare with.
-        if (HasScale() && !(deviations.requiredLower > deviations.requiredUpper))
+        // A shape needs a field to stand on and one to be compared with.
+        if (HasScale() && deviations.requiredLower <= deviations.requiredUpper &&
+            deviations.computedLower <= deviations.computedUpper)
             DrawLawShape(m_list, m_input.closing.law, m_result, CutField(deviations, markers), m_input.height);
         WriteProbabilisticLimit(markers.computedUpper, m_result.upperLimitText);
         WriteProbabilisticLimit(markers.computedLower, m_result.lowerLimitText);

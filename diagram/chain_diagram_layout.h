@@ -30,5 +30,6 @@ struct ChainDiagramInput
 /// When the nominals differ, a message takes the comparison's place.
 ///
 /// An area too small, a field without width and values that are not finite leave out what can't be drawn; the texts
-/// stay. Empty when there is no result. The white ground is the painter's.
+/// stay. Limits in reversed order, required or computed, leave out a law's shape, not the bar. Empty when there is no
+/// result. The white ground is the painter's.
 DisplayList LayoutChainDiagram(const ChainDiagramInput& input);

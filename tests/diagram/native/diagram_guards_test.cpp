@@ -144,6 +144,16 @@ TEST(DiagramGuards, ReversedComputedLimitsHaveTheBarBetweenThem)
     EXPECT_TRUE(HasLine(list, "line 130 120 130 280"));
 }
 
+TEST(DiagramGuards, ReversedComputedLimitsLeaveOutAShape)
+{
+    for (const std::int32_t law : {1, 2, 3})
+    {
+        const DisplayList list = LayoutChainDiagram(ProbabilisticInput({14, -14, -7, 7}, law));
+        EXPECT_FALSE(HasField(list)) << law;
+        EXPECT_EQ(MarkerLines(list), 4U) << law;
+    }
+}
+
 TEST(DiagramGuards, ReversedRequiredLimitsMakeTheBarRedAndLeaveOutAShape)
 {
     EXPECT_EQ(TextOf<RectPrimitive>(LayoutChainDiagram(AnalyticInput({-14, 14, 7, -7}))),
