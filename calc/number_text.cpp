@@ -54,8 +54,6 @@ std::string NumberText(double value, int decimals)
     const auto written =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, decimals);
     std::string text(buffer.data(), written.ptr);
-    if (!std::isfinite(value))
-        return text;
     text.erase(text.find_last_not_of('0') + 1);
     text.erase(text.find_last_not_of('.') + 1);
     return text;
