@@ -96,7 +96,7 @@ private:
         // A shape needs a field to stand on and one to be compared with.
         if (HasScale() && deviations.requiredLower <= deviations.requiredUpper &&
             deviations.computedLower <= deviations.computedUpper)
-            DrawLawShape(m_list, m_input.closing.law, m_result, CutField(deviations, markers), m_input.height);
+            DrawLawShape(m_list, m_input.closing.law, m_result, CutField(deviations, markers), m_base);
         WriteProbabilisticLimit(markers.computedUpper, m_result.upperLimitText);
         WriteProbabilisticLimit(markers.computedLower, m_result.lowerLimitText);
     }

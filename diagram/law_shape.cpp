@@ -10,8 +10,7 @@
 namespace
 {
 
-constexpr int kBaseInset = 20;       // base line above the area's bottom
-constexpr int kCurveHeadroom = 120;  // what the curve's peak leaves of the area's height
+constexpr int kCurvePeak = 100;  // row of the normal law's peak
 constexpr double kTwoPi = 6.283185307179586;
 
 using Points = std::vector<PixelPoint>;
@@ -22,7 +21,7 @@ struct DensityCurve
     const ChainResult& result;
     int left;
     int right;
-    int height;
+    int base;
 
     // Row of the curve at a size of the closing link.
     int RowAt(double size) const
@@ -31,7 +30,7 @@ struct DensityCurve
         const double peak = 1.0 / (std::sqrt(result.variance) * std::sqrt(kTwoPi));
         const double density = std::exp(-(distance * distance) / (2.0 * result.variance)) /
                                (std::sqrt(result.variance) * std::sqrt(kTwoPi));
-        return height - WholePixels(density / peak * (height - kCurveHeadroom)).value_or(0) - kBaseInset;
+        return base - WholePixels(density / peak * (base - kCurvePeak)).value_or(0);
     }
 
     PixelPoint PointInColumn(int x) const
@@ -96,17 +95,15 @@ struct Triangle
 
 // How the top of a piece runs, from left to right; nothing when the shape can't be drawn.
 std::function<Points(const FieldPiece&)> TopOfLaw(std::int32_t law, const ChainResult& result, int left, int right,
-                                                  int height)
+                                                  int base)
 {
-    const int base = height - kBaseInset;
-    const bool isAboveBase = law == kNormalLaw ? height > kCurveHeadroom : base > kFieldTop;
-    if (!(result.variance > 0.0) || !isAboveBase)
+    const int top = law == kNormalLaw ? kCurvePeak : kFieldTop;
+    if (!(result.variance > 0.0) || base <= top)
         return {};
     switch (law)
     {
     case kNormalLaw:
-        return
-            [curve = DensityCurve{result, left, right, height}](const FieldPiece& piece) { return curve.Top(piece); };
+        return [curve = DensityCurve{result, left, right, base}](const FieldPiece& piece) { return curve.Top(piece); };
     case kUniformLaw:
         return [](const FieldPiece& piece) { return Points{{piece.left, kFieldTop}, {piece.right, kFieldTop}}; };
     case kTriangularLaw:
@@ -119,14 +116,13 @@ std::function<Points(const FieldPiece&)> TopOfLaw(std::int32_t law, const ChainR
 }  // namespace
 
 void DrawLawShape(DisplayList& list, std::int32_t law, const ChainResult& result, const std::vector<FieldPiece>& pieces,
-                  int height)
+                  int base)
 {
     if (pieces.empty())
         return;
-    const auto top = TopOfLaw(law, result, pieces.front().left, pieces.back().right, height);
+    const auto top = TopOfLaw(law, result, pieces.front().left, pieces.back().right, base);
     if (!top)
         return;
-    const int base = height - kBaseInset;
     for (const FieldPiece& piece : pieces)
     {
         Points corners{{piece.left, base}};
