@@ -56,16 +56,16 @@ struct PrimitivePainter
     {
         const std::vector<POINT> corners = ToPoints(fill.corners);
         CRgn region;
-        CBrush brush(ToColor(fill.color));
-        if (region.CreatePolygonRgn(corners.data(), static_cast<int>(corners.size()), WINDING))
+        CBrush brush;
+        if (region.CreatePolygonRgn(corners.data(), static_cast<int>(corners.size()), WINDING) &&
+            brush.CreateSolidBrush(ToColor(fill.color)))
             dc.FillRgn(&region, &brush);
     }
 
     void operator()(const RectPrimitive& rect) const
     {
-        CBrush brush(ToColor(rect.color));
         const CRect area(rect.left, rect.top, rect.right, rect.bottom);
-        dc.FillRect(&area, &brush);
+        dc.FillSolidRect(&area, ToColor(rect.color));
     }
 
     void operator()(const OutlinePrimitive& outline) const

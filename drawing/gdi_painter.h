@@ -6,4 +6,5 @@ struct DisplayList;
 
 /// Paints a drawing on a device context, primitive by primitive in its order: lines and outlines one pixel wide and
 /// black, texts with the context's font on whatever is below them. The context's own settings come back at the end.
+/// Throws nothing: a polygon for which the system has no graphics object left is missing from the picture.
 void PaintDisplayList(CDC& dc, const DisplayList& list);

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "drawing/display_list.h"
+#include "gdi_exhaustion.h"
+#include "tests/support/resource_count.h"
 #include "white_canvas.h"
 
 namespace
@@ -179,6 +181,37 @@ TEST(GdiPainter, PutsColoursAndAlignmentOfTheContextBack)
     EXPECT_EQ(::GetBkColor(dc), RGB(4, 5, 6));
     EXPECT_EQ(::GetTextAlign(dc), static_cast<UINT>(TA_BASELINE | TA_RIGHT));
     EXPECT_EQ(::GetBkMode(dc), OPAQUE);
+}
+
+DisplayList OneOfEachPrimitive()
+{
+    DisplayList list;
+    list.Fill(kGreen, {{4, 3}, {14, 3}, {14, 9}, {4, 9}});
+    list.Rect(kRed, 2, 3, 8, 5);
+    list.Text(10, 10, TextAlign::Left, "HHH");
+    list.Outline({{4, 12}, {4, 3}, {14, 3}, {14, 12}});
+    list.Line(0, 15, 30, 15);
+    return list;
+}
+
+TEST(GdiPainter, LeavesNoGraphicsObjectsBehind)
+{
+    WhiteCanvas canvas(30, 20);
+    PaintDisplayList(canvas.Dc(), OneOfEachPrimitive());
+    const int before = GdiObjectCount();
+    for (int i = 0; i < 20; ++i)
+        PaintDisplayList(canvas.Dc(), OneOfEachPrimitive());
+    EXPECT_EQ(GdiObjectCount(), before);
+}
+
+TEST(GdiPainter, GoesOnWithoutFillingsWhenNoBrushCanBeMade)
+{
+    WhiteCanvas canvas(30, 20);
+    {
+        const GdiExhaustion exhaustion;
+        EXPECT_NO_THROW(PaintDisplayList(canvas.Dc(), OneOfEachPrimitive()));
+    }
+    EXPECT_EQ(canvas.At(20, 15), kBlackPixel) << "the last primitive";
 }
 
 TEST(GdiPainter, PaintsNothingForAnEmptyList)

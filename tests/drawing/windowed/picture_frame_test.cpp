@@ -214,6 +214,23 @@ TEST_F(PictureFrame, ShowsAPictureThatItWasGivenWhileHidden)
     EXPECT_EQ(At(10, 10), RGB(97, 220, 5));
 }
 
+TEST_F(PictureFrame, LeavesNoGraphicsObjectsBehind)
+{
+    const CModuleSkin skin(kModuleCalcTol);
+    const auto showAll = [this] {
+        m_frame.ShowBitmap(KindBitmap(1));
+        m_frame.ShowDrawing(GreenBlock());
+        Uncover();
+    };
+    showAll();
+    const int before = GdiObjectCount();
+    for (int i = 0; i < 20; ++i)
+        showAll();
+    EXPECT_EQ(GdiObjectCount(), before) << "each picture replaces the one before";
+    m_frame.Clear();
+    EXPECT_EQ(GdiObjectCount(), before - 1) << "the picture alone is kept";
+}
+
 TEST_F(PictureFrame, SaysThatNoMemoryContextCouldBeMadeForABitmap)
 {
     const CModuleSkin skin(kModuleCalcTol);
