@@ -7,6 +7,7 @@
 #include <limits>
 #include <locale>
 #include <string>
+#include <string_view>
 
 namespace
 {
@@ -133,6 +134,12 @@ TEST(TextToNumber, StopsAtTheFirstCharacterThatDoesNotBelong)
               1.0);
 }
 
+TEST(TextToNumber, ReadsNoFartherThanTheTextReaches)
+{
+    EXPECT_EQ(TextToNumber(std::string_view("12.75").substr(0, 4)), 12.7);
+    EXPECT_EQ(TextToNumber(std::string_view("1e5").substr(0, 2)), 1.0);
+}
+
 TEST(TextToNumber, GivesZeroWithoutALeadingNumber)
 {
     ExpectNumbers({{"", 0.0},
@@ -173,13 +180,18 @@ TEST(TextToNumber, IsInfiniteWhenTheNumberIsTooLarge)
                    {manyDigits, kInfinity},
                    {"0.001e400", kInfinity},
                    {"1e" + manyDigits, kInfinity},
-                   {manyDigits + "e10", kInfinity}});
+                   {manyDigits + "e10", kInfinity},
+                   {manyDigits + "e-50", kInfinity}});
 }
 
 TEST(TextToNumber, IsZeroWithItsSignWhenTheNumberIsTooSmall)
 {
     const std::string manyZeros(400, '0');
-    ExpectNumbers({{"1e-999", 0.0}, {"0." + manyZeros + "1", 0.0}, {"12345e-999", 0.0}, {"0e999", 0.0}});
+    ExpectNumbers({{"1e-999", 0.0},
+                   {"0." + manyZeros + "1", 0.0},
+                   {"0." + manyZeros + "1e50", 0.0},
+                   {"12345e-999", 0.0},
+                   {"0e999", 0.0}});
     EXPECT_TRUE(std::signbit(TextToNumber("-1e-999")));
 }
 
