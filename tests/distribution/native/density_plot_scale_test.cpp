@@ -74,6 +74,14 @@ TEST(DensityPlotScale, BelowTheNominalTheMeanMovesByFortyPixels)
     EXPECT_EQ(scale.meanX, 200 - 91 + 1);
 }
 
+// It crosses the centre line then: 8.75 - 40 = -31.25 pixels, cut toward zero.
+TEST(DensityPlotScale, BelowTheNominalTheMeanMayComeToTheOtherSide)
+{
+    EXPECT_EQ(Place(-14, -16, -1).meanX, 200 + 31 + 1);
+    EXPECT_EQ(Place(-14, -16, 0).meanX, 200 + 40 + 1);
+    EXPECT_EQ(Place(-14, -16, 1).meanX, 200 - 31 + 1);
+}
+
 // The lower limit at 122.5 pixels moves to 100; the mean in the middle of the field moves to the middle, 120.
 TEST(DensityPlotScale, AboveTheNominalTheMeanKeepsItsProportion)
 {

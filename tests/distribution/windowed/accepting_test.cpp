@@ -68,6 +68,16 @@ TEST_F(VariableAccepting, ResetsRecordAndControlsAfterwards)
     }});
 }
 
+TEST_F(VariableAccepting, LeavesTheDeviationAndTheSelectedLawAsTheyAreShown)
+{
+    Run({[this] {
+        Choose(kTriangular);
+        Click(IDC_VARIABLE_OK);
+        EXPECT_EQ(Text(IDC_VARIABLE_SIGMA), L"0.061237244");
+        EXPECT_EQ(Position(), kTriangular);
+    }});
+}
+
 TEST_F(VariableAccepting, TakesTheSelectedLawOfALinkWithoutOne)
 {
     Record().law = 0;

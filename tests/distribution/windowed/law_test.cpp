@@ -84,6 +84,22 @@ TEST_F(VariableLawBox, TakesTheLawByEnterInTheDroppedList)
     EXPECT_TRUE(Codes().empty()) << "Enter closed the dialog";
 }
 
+TEST_F(VariableLawBox, TellsTheLawByTheEntrysDataAndNotByItsPosition)
+{
+    std::int32_t told = 0;
+    OnNotification([&](UINT) { told = Record().law; });
+    Run({[this] {
+        ::SendMessageW(Box(), CB_SETITEMDATA, kNormal, 52722);
+        ::SendMessageW(Box(), CB_SETITEMDATA, kTriangular, 52721);
+        Choose(kNormal);
+        EXPECT_EQ(Record().law, 3);
+        EXPECT_EQ(Text(IDC_VARIABLE_SIGMA), L"0.061237244");
+        ::SendMessageW(Box(), CB_SETCURSEL, kTriangular, 0);
+        Click(IDC_VARIABLE_OK);
+    }});
+    EXPECT_EQ(told, 1) << "OK asks the box once more";
+}
+
 TEST_F(VariableLawBox, RedrawsThePlotAtOnce)
 {
     Run({[] {},

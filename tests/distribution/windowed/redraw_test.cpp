@@ -132,4 +132,30 @@ TEST_F(VariableRedraw, WorksAgainAfterARefusal)
     }});
 }
 
+/// A dialog that redraws in its own way.
+class DerivedVariableDialog : public CVariableDlg
+{
+public:
+    using CVariableDlg::CVariableDlg;
+    int redrawn = 0;
+
+protected:
+    void OnRedraw() override { ++redrawn; }
+};
+
+TEST_F(VariableRedraw, AsksADerivedDialog)
+{
+    auto derived = std::make_unique<DerivedVariableDialog>(&host);
+    const DerivedVariableDialog& asked = *derived;
+    derived->SetHostWindow(&host);
+    derived->Params() = UniformLink();
+    dialog = std::move(derived);
+    Run({[this] {
+        Write(IDC_VARIABLE_MEAN, L"25.1");
+        Click(IDC_VARIABLE_REDRAW);
+    }});
+    EXPECT_EQ(asked.redrawn, 1);
+    EXPECT_EQ(dialog->Params().mean, 25.05);
+}
+
 }  // namespace
