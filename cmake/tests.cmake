@@ -3,6 +3,21 @@ set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
 set(BUILD_GMOCK OFF CACHE BOOL "" FORCE)
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 
+# calctol_cheap_test_code(TARGET [REUSE_FROM TARGET | HEADER...])
+#
+# Most of the work on a test's source is to read GoogleTest and the framework: HEADERs are read once, unless a compiler
+# cache does even better. Nor does test code run long enough to be worth optimising; what it tests is optimised as ever.
+function(calctol_cheap_test_code target)
+    target_compile_options(${target} PRIVATE -O0)
+    if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
+        if(ARGV1 STREQUAL REUSE_FROM)
+            target_precompile_headers(${target} ${ARGN})
+        else()
+            target_precompile_headers(${target} PRIVATE ${ARGN})
+        endif()
+    endif()
+endfunction()
+
 # calctol_add_test(NAME SOURCES... [LIBRARIES ...] [WINDOWED])
 #
 # One test program, entered into CTest as one test: the tests inside run in a shuffled order whose seed is printed.
@@ -13,10 +28,12 @@ function(calctol_add_test name)
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE calctol_options ${arg_LIBRARIES})
     if(arg_WINDOWED)
-        target_link_libraries(${name} PRIVATE windowed_test_main)
+        set(main windowed_test_main)
     else()
-        target_link_libraries(${name} PRIVATE GTest::gtest GTest::gtest_main)
+        set(main native_test_main)
     endif()
+    target_link_libraries(${name} PRIVATE ${main})
+    calctol_cheap_test_code(${name} REUSE_FROM ${main})
     add_test(NAME ${name} COMMAND ${name} --gtest_shuffle --gtest_brief=1)
     set_tests_properties(${name} PROPERTIES TIMEOUT 120)
     if(arg_WINDOWED)

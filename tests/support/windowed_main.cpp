@@ -8,20 +8,8 @@
 #include "tests/support/message_box_guard.h"
 #include "tests/support/planned_actions.h"
 #include "tests/support/private_desktop.h"
+#include "tests/support/seed_printer.h"
 #include "tests/support/watchdog.h"
-
-namespace
-{
-// The brief listener of GoogleTest keeps it to itself.
-class SeedPrinter : public testing::EmptyTestEventListener
-{
-    void OnTestIterationStart(const testing::UnitTest& program, int) override
-    {
-        if (testing::GTEST_FLAG(shuffle))
-            std::printf("shuffled with seed %d\n", program.random_seed());
-    }
-};
-}  // namespace
 
 int main(int argc, char** argv)
 {
