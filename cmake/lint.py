@@ -34,13 +34,21 @@ def is_ours(path):
     return path.is_relative_to(ROOT) and not path.is_relative_to(ROOT / "build")
 
 
+def without_precompiled_header(command):
+    """GCC's precompiled headers mean nothing to clang; the sources include what they need."""
+    while "-include" in command:
+        at = command.index("-include")
+        command = command[:at] + command[at + 2 :]
+    return command
+
+
 class Source:
     """One source file and how a build folder compiles it."""
 
     def __init__(self, entry, folder):
         self.path = Path(os.path.normpath(Path(entry["directory"], entry["file"])))
         self.folder = folder
-        self.command = shlex.split(entry["command"])
+        self.command = without_precompiled_header(shlex.split(entry["command"]))
         self.object = self.command[self.command.index("-o") + 1]
 
     def name(self):
@@ -116,10 +124,9 @@ def header_filter(settings_folder):
 def findings_in(source, options):
     """clang-tidy's report, empty for a clean source."""
     settings_folder = next(folder for folder in source.path.parents if (folder / ".clang-tidy").exists())
-    command = ["clang-tidy", "--quiet", "-p", str(source.folder), str(source.path)]
-    command.append(f"--header-filter={header_filter(settings_folder)}")
-    command += [f"--extra-arg={option}" for option in ["-Wno-unknown-warning-option", *options]]
-    run = subprocess.run(command, text=True, capture_output=True, stdin=subprocess.DEVNULL)
+    command = ["clang-tidy", "--quiet", f"--header-filter={header_filter(settings_folder)}", str(source.path), "--"]
+    command += [*source.command[1:], "-Wno-unknown-warning-option", *options]
+    run = subprocess.run(command, text=True, capture_output=True, cwd=source.folder, stdin=subprocess.DEVNULL)
     if run.returncode == 0 and not FINDING.search(run.stdout):
         return ""
     return run.stdout if run.stdout.strip() else run.stderr
