@@ -10,6 +10,9 @@
 /// One run of DoModal. It outlives the dialog's window and even the dialog object.
 struct ModalRun
 {
+    explicit ModalRun(HWND owner) : owners(owner) {}
+
+    DisabledOwners owners;
     INT_PTR result = -1;
     bool ended = false;
     bool abandoned = false;  // the window or the object is gone: neither may be touched
@@ -100,10 +103,10 @@ CDialog::CDialog(LPCWSTR templateName, CWnd* parent) : m_parent(parent)
 
 CDialog::~CDialog()
 {
-    if (m_modalRun != nullptr)
-        AbandonModalRun();
     if (m_hWnd != nullptr)
         CDialog::DestroyWindow();
+    if (m_modalRun != nullptr)
+        AbandonModalRun();
 }
 
 BOOL CDialog::Create(UINT templateId, CWnd* parent)
@@ -135,29 +138,43 @@ INT_PTR CDialog::DoModal()
     if (m_modalRun != nullptr || m_hWnd != nullptr)
         return -1;
     const HWND owner = OwnerOfModal(m_parent);
-    ModalRun run;
+    ModalRun run(owner);
     m_modalRun = &run;
-    DisabledOwners owners(owner);
-    const BOOL created = CreateFromTemplate(m_templateName, owner);
-    if (created && !run.ended)
+    try
     {
-        const HWND window = m_hWnd;
-        ::ShowWindow(window, SW_SHOWNORMAL);
-        ::UpdateWindow(window);
-        RunLoop(run);
+        if (CreateFromTemplate(m_templateName, owner) && !run.ended)
+        {
+            const HWND window = m_hWnd;
+            ::ShowWindow(window, SW_SHOWNORMAL);
+            ::UpdateWindow(window);
+            RunLoop(run);
+        }
     }
-    owners.Restore();  // before the window goes, so that activation can return to the owner
-    if (run.abandoned)
+    catch (...)  // of a PreTranslateMessage or OnIdle, which Windows does not call
     {
-        if (::GetActiveWindow() == nullptr && ::IsWindow(owner))
-            ::SetActiveWindow(owner);
-        return -1;
+        EndModalRun(run);
+        throw;
     }
-    m_modalRun = nullptr;
-    if (!created)
-        return -1;
-    DestroyWindow();
+    EndModalRun(run);
+    if (run.abandoned && ::GetActiveWindow() == nullptr && ::IsWindow(owner))
+        ::SetActiveWindow(::GetAncestor(owner, GA_ROOT));
     return run.result;
+}
+
+void CDialog::EndModalRun(ModalRun& run)
+{
+    run.owners.Restore();
+    if (run.abandoned)
+        return;
+    m_modalRun = nullptr;
+    DestroyWindow();
+}
+
+BOOL CDialog::DestroyWindow()
+{
+    if (m_modalRun != nullptr)
+        m_modalRun->owners.Restore();  // before the window goes, so that activation can return to the owner
+    return CWnd::DestroyWindow();
 }
 
 void CDialog::EndDialog(int result)
@@ -170,7 +187,7 @@ void CDialog::EndDialog(int result)
     }
     else if (m_hWnd != nullptr)
     {
-        ::EndDialog(m_hWnd, result);
+        ShowWindow(SW_HIDE);
     }
 }
 

@@ -43,6 +43,7 @@ public:
     void SetDefID(UINT id);
     void MapDialogRect(LPRECT rect) const { ::MapDialogRect(m_hWnd, rect); }
 
+    BOOL DestroyWindow() override;
     BOOL PreTranslateMessage(MSG* message) override;
     /// A command of the upper ID range that the dialog does not handle goes on to its owner and the application.
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo) override;
@@ -62,6 +63,8 @@ protected:
 
 private:
     BOOL CreateFromTemplate(LPCWSTR templateName, HWND owner);
+    /// The loop has ended: enables the owners and destroys the window, unless it or this object is gone.
+    void EndModalRun(ModalRun& run);
     /// The window or this object goes while DoModal runs: its loop ends and leaves the object alone.
     void AbandonModalRun();
     LRESULT OnHandleInitDialog(WPARAM wParam, LPARAM lParam);

@@ -18,8 +18,22 @@ public:
     explicit CShortDialog(CWnd* parent) : CDialog(IDD_PLAIN, parent) {}
 
     std::function<void()> m_onOk;
+    std::function<void()> m_onDestroy;
+
+    BOOL PreTranslateMessage(MSG* message) override
+    {
+        if (message->message == WM_APP)
+            AfxThrowInvalidArgException();
+        return CDialog::PreTranslateMessage(message);
+    }
 
 protected:
+    afx_msg void OnDestroy()
+    {
+        if (m_onDestroy)
+            m_onDestroy();
+        CDialog::OnDestroy();
+    }
     void OnOK() override
     {
         if (m_onOk)
@@ -27,7 +41,13 @@ protected:
         else
             CDialog::OnOK();
     }
+
+    DECLARE_MESSAGE_MAP()
 };
+
+BEGIN_MESSAGE_MAP(CShortDialog, CDialog)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
 
 std::function<bool()> IsShown(const CDialog& dialog)
 {
@@ -43,6 +63,53 @@ TEST(ModalDialogLifetime, WindowDestroyedFromOutsideGivesMinusOne)
     EXPECT_EQ(dialog.DoModal(), -1);
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
+}
+
+// Windows gives the activation to another program when no window of this one is enabled.
+TEST(ModalDialogLifetime, OwnerIsEnabledBeforeTheWindowDestroyedFromOutsideGoes)
+{
+    RecordingWindow owner;
+    CShortDialog dialog(&owner);
+    bool enabled = false;
+    dialog.m_onDestroy = [&] { enabled = owner.IsWindowEnabled() != FALSE; };
+    DoWhen(IsShown(dialog), [&dialog] { dialog.DestroyWindow(); });
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_TRUE(enabled);
+}
+
+TEST(ModalDialogLifetime, DialogOpenedInPlaceOfADestroyedOneHasTheOwnerToItself)
+{
+    RecordingWindow owner;
+    CShortDialog first(&owner);
+    CShortDialog second(&owner);
+    bool enabledMeanwhile = true;
+    bool enabledAtTheEnd = false;
+    second.m_onDestroy = [&] { enabledAtTheEnd = owner.IsWindowEnabled() != FALSE; };
+    DoWhen(IsShown(second), [&] {
+        enabledMeanwhile = owner.IsWindowEnabled() != FALSE;
+        second.EndDialog(IDOK);
+    });
+    INT_PTR secondResult = 0;
+    DoWhen(IsShown(first), [&] {
+        first.DestroyWindow();
+        secondResult = second.DoModal();
+    });
+    EXPECT_EQ(first.DoModal(), -1);
+    EXPECT_EQ(secondResult, IDOK);
+    EXPECT_FALSE(enabledMeanwhile);
+    EXPECT_TRUE(enabledAtTheEnd);
+}
+
+TEST(ModalDialogLifetime, ExceptionThatLeavesTheLoopEndsTheDialog)
+{
+    RecordingWindow owner;
+    CShortDialog dialog(&owner);
+    DoWhen(IsShown(dialog), [&dialog] { dialog.PostMessage(WM_APP); });
+    EXPECT_THROW(dialog.DoModal(), CInvalidArgException*);
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    DoWhen(IsShown(dialog), [&dialog] { dialog.EndDialog(IDOK); });
+    EXPECT_EQ(dialog.DoModal(), IDOK);
 }
 
 TEST(ModalDialogLifetime, WindowDestroyedAfterEndDialogGivesMinusOneToo)
