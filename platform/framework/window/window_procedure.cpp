@@ -67,6 +67,11 @@ LRESULT CallWindowObject(CWnd& wnd, const MSG& message)
         CStandardException exception(thrown);
         return AfxGetThread()->ProcessWndProcException(&exception, &message);
     }
+    catch (...)
+    {
+        CException exception(FALSE);
+        return AfxGetThread()->ProcessWndProcException(&exception, &message);
+    }
 }
 
 namespace

@@ -15,7 +15,8 @@ enum class Thrown
     nothing,
     invalidArgument,
     standard,
-    memory
+    memory,
+    number
 };
 
 class CThrowingWindow : public CWnd
@@ -35,6 +36,8 @@ public:
             throw std::runtime_error("the table is empty");
         case Thrown::memory:
             throw std::bad_alloc();
+        case Thrown::number:
+            throw 7;
         case Thrown::nothing:
             break;
         }
@@ -106,6 +109,15 @@ TEST(WindowException, LackOfMemoryIsReportedAsSuch)
     const ExpectMessageBox box;
     EXPECT_EQ(SendThrow(window, Thrown::memory), 0);
     EXPECT_EQ(box.Text(), L"There is not enough memory for this operation.");
+}
+
+TEST(WindowException, AnythingElseIsReportedAsUnknown)
+{
+    CThrowingWindow window;
+    ASSERT_TRUE(CreateThrowing(window));
+    const ExpectMessageBox box;
+    EXPECT_EQ(SendThrow(window, Thrown::number), 0);
+    EXPECT_EQ(box.Text(), L"The operation failed. Nothing more is known about the cause.");
 }
 
 TEST(WindowException, WindowThatThrowsInItsCreationIsNotCreated)
