@@ -25,6 +25,14 @@ WindowCreation::~WindowCreation()
 {
     innermost = m_outer;
     ::UnhookWindowsHookEx(m_hook);
+    if (m_window == nullptr || ::IsWindow(m_window))
+        return;
+    // Refused by another hook: it never got a message, not even its last one.
+    if (CWnd* const object = CWnd::FromHandlePermanent(m_window))
+    {
+        object->Detach();
+        object->PostNcDestroy();
+    }
 }
 
 bool WindowCreation::IsExpected(HWND window) const
@@ -43,6 +51,7 @@ LRESULT CALLBACK WindowCreation::OnHook(int code, WPARAM wParam, LPARAM lParam)
     {
         CWnd* object = creation->m_object;
         creation->m_object = nullptr;
+        creation->m_window = window;
         object->TakeMessages(window);
     }
     return ::CallNextHookEx(nullptr, code, wParam, lParam);

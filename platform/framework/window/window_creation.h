@@ -4,7 +4,8 @@
 
 class CWnd;
 
-/// Gives an object its window while Windows creates it, before the window's first message. Creations may nest.
+/// Gives an object its window while Windows creates it, before the window's first message. Creations may nest. When
+/// Windows gives the window up without a message, the object is told at the end as of a destroyed one.
 class WindowCreation
 {
 public:
@@ -22,6 +23,7 @@ private:
     bool IsExpected(HWND window) const;
 
     CWnd* m_object;  // null from the moment it has its window
+    HWND m_window = nullptr;
     LPCWSTR m_className;
     WindowCreation* m_outer;
     HHOOK m_hook;

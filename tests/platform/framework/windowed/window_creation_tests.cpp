@@ -102,6 +102,40 @@ TEST(WindowCreation, UnknownClassFailsAndEndsTheObjectAsADestroyedWindowDoes)
     EXPECT_EQ(window.m_postNcDestroys, 1);
 }
 
+namespace
+{
+/// While one lives, Windows lets no window be created.
+class NoNewWindows
+{
+public:
+    NoNewWindows() : m_hook(::SetWindowsHookExW(WH_CBT, &Refuse, nullptr, ::GetCurrentThreadId())) {}
+    ~NoNewWindows() { ::UnhookWindowsHookEx(m_hook); }
+    NoNewWindows(const NoNewWindows&) = delete;
+    NoNewWindows& operator=(const NoNewWindows&) = delete;
+
+private:
+    static LRESULT CALLBACK Refuse(int code, WPARAM wParam, LPARAM lParam)
+    {
+        return code == HCBT_CREATEWND ? 1 : ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    HHOOK m_hook;
+};
+}  // namespace
+
+TEST(WindowCreation, RefusalByAHookEndsTheObjectAsADestroyedWindowDoes)
+{
+    CDynamicWindow window;
+    {
+        const NoNewWindows refusal;
+        EXPECT_FALSE(CreateTopLevel(window));
+    }
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_EQ(window.m_creates, 0);
+    EXPECT_EQ(window.m_postNcDestroys, 1);
+    EXPECT_TRUE(CreateTopLevel(window)) << "it can be tried again";
+}
+
 TEST(WindowCreation, PostNcDestroyComesOnceAndWithoutAWindow)
 {
     CDynamicWindow window;
