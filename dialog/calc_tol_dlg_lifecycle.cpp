@@ -25,6 +25,7 @@ constexpr int kWeightFixedWidth = 50;
 
 void LoadImages(CImageList& images, int width, int height, UINT bitmapId)
 {
+    images.DeleteImageList();  // those of a former window
     images.Create(width, height, ILC_COLOR16 | ILC_MASK, 0, kImageGrowth);
     CBitmap bitmap;
     bitmap.LoadBitmap(bitmapId);
@@ -65,6 +66,8 @@ void EndIfOpen(CDialog* child, int result)
 
 BOOL CCalcTolDlg::Create(CWnd* parent)
 {
+    if (m_hWnd != nullptr)
+        return FALSE;
     const CModuleSkin skin(kModuleCalcTol);
     m_hostWindow = parent;
     if (!CDialog::Create(IDD_CALC_TOL, parent))
@@ -82,6 +85,7 @@ BOOL CCalcTolDlg::OnInitDialog()
 {
     const CModuleSkin skin(kModuleCalcTol);
     CCalcTolDlgBase::OnInitDialog();
+    m_calcMethod = 0;  // a former window may have left another one
     SetUpChainList();
     SetUpClosingList();
     m_diagram.SubclassDlgItem(IDC_CHAIN_DIAGRAM, this);
