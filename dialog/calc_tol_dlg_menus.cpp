@@ -1,5 +1,7 @@
 // The calculation dialog's menu bar, context menus, column 5's choice and the double clicks.
 
+#include <optional>
+
 #include "calc/chain_calculation.h"
 #include "dialog/calc_tol_dlg.h"
 #include "dialog/weight_fixed_text.h"
@@ -72,13 +74,16 @@ void CCalcTolDlg::OnComboExpand(NMHDR* header, LRESULT* result)
 {
     const CModuleSkin skin(kModuleCalcTol);
     auto& request = *reinterpret_cast<NMFLISTCOMBO*>(header);
+    std::optional<INT_PTR> match;
     for (const std::int32_t weightFixed : {1, 0})
     {
         const CString text = WeightFixedText(weightFixed);
-        const auto index = static_cast<std::int32_t>(request.items->Add({.text = text, .value = 0}));
-        if (request.selected < 0 && text == request.text)
-            request.selected = index;
+        const INT_PTR index = request.items->Add({.text = text, .value = 0});
+        if (!match && text == request.text)
+            match = index;
     }
+    if (match)
+        request.selected = static_cast<std::int32_t>(*match);
     *result = 0;
 }
 
