@@ -44,9 +44,11 @@ END_MESSAGE_MAP()
 
 CCalcTolDlg::CCalcTolDlg(CWnd* parent) : CCalcTolDlgBase(IDD_CALC_TOL, parent) {}
 
-// The child dialogs stay: the host may hold on to what it read from them, see the class.
+// The window goes while all members are there. The child dialogs stay: the host may hold on to what it read from them,
+// see the class.
 CCalcTolDlg::~CCalcTolDlg()
 {
+    CCalcTolDlgBase::DestroyWindow();
     m_editTolDlg = nullptr;
     m_editCloseTolDlg = nullptr;
     m_variableDlg = nullptr;
