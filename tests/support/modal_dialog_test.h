@@ -17,14 +17,7 @@
 #include "tests/support/pixels.h"
 #include "tests/support/recording_window.h"
 #include "tests/support/released_pages.h"
-
-inline CString ResourceText(UINT id)
-{
-    const CModuleSkin skin(kModuleCalcTol);
-    CString text;
-    text.LoadString(id);
-    return text;
-}
+#include "tests/support/resource_text.h"
 
 inline Pixels ResourcePicture(UINT bitmapId)
 {

@@ -1,0 +1,356 @@
+// Editing the tolerance of a link and of the closing link: what the child dialog gets, and what the host writes back.
+
+#include "tests/dialog/windowed/calc_dialog_test.h"
+
+namespace
+{
+
+class EditingALink : public CalcDialogTest
+{
+protected:
+    EditingALink()
+    {
+        OpenWith(kAnalytic);
+        CDimParams second = Dimension(L"A2", L"4", L"0.05", L"0", 0, 3);
+        second.tolField = L"zz";
+        second.weightFixed = 1;
+        AddLinks({{Dimension(L"A1", L"10", L"0.1", L"-0.1"), &objects[0]}, {second, &objects[1]}});
+        FocusOnLink(1);
+        host.Forget();
+    }
+
+    void ExpectLinkUntouched() const
+    {
+        EXPECT_EQ(Links().Texts(2), (std::vector<CString>{L"A2", L"4", L"zz", L"0.05", L"0", ResourceText(52712)}));
+        EXPECT_EQ(Links().Record(2)->mean, 4.025);
+        EXPECT_EQ(Links().Record(2)->increasing, 0);
+    }
+};
+
+TEST_F(EditingALink, TellsTheHostBeforeItsDialogOpens)
+{
+    bool open = true;
+    host.On(kEditBegins, [&] { open = Child() != nullptr; });
+    Command(ID_LINK_EDIT, {[this] { ClickChild(IDC_LINK_CANCEL); }});
+    EXPECT_FALSE(open);
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 3}));
+}
+
+TEST_F(EditingALink, FillsTheRecordFromTheRow)
+{
+    CDimParams params;
+    Command(ID_LINK_EDIT, {[&] {
+                dialog->GetDimDlgParams(params);
+                ClickChild(IDC_LINK_CANCEL);
+            }});
+    EXPECT_EQ(params.name, L"A2");
+    EXPECT_EQ(params.nominal, L"4");
+    EXPECT_EQ(params.tolField, L"zz");
+    EXPECT_EQ(params.upperDev, L"0.05");
+    EXPECT_EQ(params.lowerDev, L"0");
+    EXPECT_EQ(params.caption, ResourceText(52705));
+    EXPECT_EQ(params.weightFixed, 1);
+    EXPECT_EQ(params.increasing, 0);
+    EXPECT_EQ(params.dimKind, 3);
+}
+
+TEST_F(EditingALink, ShowsTheRow)
+{
+    CString name;
+    CString nominal;
+    CString caption;
+    CString field;
+    CString upper;
+    CString lower;
+    bool fixed = false;
+    LRESULT direction = -1;
+    Command(ID_LINK_EDIT, {[&] {
+                name = ChildText(IDC_LINK_NAME);
+                nominal = ChildText(IDC_LINK_NOMINAL);
+                caption = ChildText(IDC_LINK_CAPTION);
+                field = ChildText(IDC_LINK_FIELD);
+                upper = ChildText(IDC_LINK_UPPER_DEV);
+                lower = ChildText(IDC_LINK_LOWER_DEV);
+                fixed = IsChildChecked(IDC_LINK_WEIGHT_FIXED);
+                direction = ::SendMessageW(ChildControl(IDC_LINK_DIRECTION), CB_GETCURSEL, 0, 0);
+                ClickChild(IDC_LINK_CANCEL);
+            }});
+    EXPECT_EQ(name, L"A2");
+    EXPECT_EQ(nominal, L"4");
+    EXPECT_EQ(caption, ResourceText(52705));
+    EXPECT_EQ(field, L"zz");
+    EXPECT_EQ(upper, L"0.05");
+    EXPECT_EQ(lower, L"0");
+    EXPECT_TRUE(fixed);
+    EXPECT_EQ(direction, 1) << "decreasing";
+}
+
+TEST_F(EditingALink, FillsKind0ForALinkWithoutAnImage)
+{
+    AddLink(Dimension(L"K7", L"1", L"0.1", L"0", 1, 7), &objects[2]);
+    FocusOnLink(2);
+    CDimParams params;
+    params.dimKind = 9;
+    Command(ID_LINK_EDIT, {[&] {
+                dialog->GetDimDlgParams(params);
+                ClickChild(IDC_LINK_CANCEL);
+            }});
+    EXPECT_EQ(params.dimKind, 0);
+}
+
+TEST_F(EditingALink, TakesTheHostsValuesInsteadWhenItLoadsThem)
+{
+    CString nominal;
+    Command(ID_LINK_EDIT, {[&] {
+                Load(Dimension(L"B", L"99", L"1", L"0"));
+                nominal = ChildText(IDC_LINK_NOMINAL);
+                ClickChild(IDC_LINK_CANCEL);
+            }});
+    EXPECT_EQ(nominal, L"99");
+    ExpectLinkUntouched();
+}
+
+TEST_F(EditingALink, NeverWritesTheRowByItself)
+{
+    Command(ID_LINK_EDIT, {[this] {
+                WriteChild(IDC_LINK_NAME, L"changed");
+                WriteChild(IDC_LINK_UPPER_DEV, L"0.5");
+                ClickChild(IDC_LINK_OK);
+            }});
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 1}));
+    ExpectLinkUntouched();
+}
+
+TEST_F(EditingALink, IsWrittenBackByTheHost)
+{
+    host.On(kLinkAccepted, [this] {
+        CDimParams params;
+        dialog->GetDimDlgParams(params);
+        dialog->SetCurrentFRowData(params);
+    });
+    Command(ID_LINK_EDIT, {[this] {
+                WriteChild(IDC_LINK_NAME, L"B2");
+                WriteChild(IDC_LINK_UPPER_DEV, L"0.5");
+                WriteChild(IDC_LINK_LOWER_DEV, L"-0.5");
+                ClickChild(IDC_LINK_WEIGHT_FIXED);
+                ::SendMessageW(ChildControl(IDC_LINK_DIRECTION), CB_SETCURSEL, 0, 0);
+                ClickChild(IDC_LINK_OK);
+            }});
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 1}));
+    EXPECT_EQ(Links().Texts(2), (std::vector<CString>{L"B2", L"4", L"zz", L"0.5", L"-0.5", ResourceText(52713)}));
+    EXPECT_EQ(Links().Record(2)->mean, 4.0);
+    EXPECT_EQ(Links().Record(2)->increasing, 1);
+    EXPECT_EQ(Links().Record(2)->hostObject, &objects[1]);
+    EXPECT_EQ(Links().Texts(1)[0], L"A1") << "the other link stays";
+}
+
+TEST_F(EditingALink, IsWrittenBackInsideApplyToo)
+{
+    host.On(kLinkApplied, [this] {
+        CDimParams params;
+        dialog->GetDimDlgParams(params);
+        dialog->SetCurrentFRowData(params);
+    });
+    Command(ID_LINK_EDIT, {[this] {
+                Load(Dimension(L"B2", L"8", L"0.5", L"-0.5"));
+                ClickChild(IDC_LINK_APPLY);
+                ClickChild(IDC_LINK_CANCEL);
+            }});
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 107, 3}));
+    EXPECT_EQ(Links().Text(2, 0), L"B2");
+}
+
+TEST_F(EditingALink, LeavesTheNominalColumnButMovesTheMean)
+{
+    CDimParams params = Dimension(L"A2", L"50", L"1", L"0");
+    dialog->SetCurrentFRowData(params);
+    EXPECT_EQ(Links().Text(2, 1), L"4");
+    EXPECT_EQ(Links().Record(2)->mean, 50.5);
+}
+
+TEST_F(EditingALink, LeavesKindLawAndWeight)
+{
+    CVariableParams distribution;
+    distribution.law = 3;
+    distribution.mean = 4.01;
+    dialog->SetVariableFRowData(distribution);
+    CDimParams params = Dimension(L"A2", L"4", L"1", L"0", 1, 1);
+    dialog->SetCurrentFRowData(params);
+    EXPECT_EQ(Links().Row(2).Image(0), 11);
+    EXPECT_EQ(Links().Record(2)->law, 3);
+    EXPECT_EQ(Links().Record(2)->weight, 1);
+    EXPECT_EQ(Links().Record(2)->mean, 4.5) << "overwritten again from the tolerance";
+}
+
+TEST_F(EditingALink, TakesEveryValueButZeroForAFixedWeight)
+{
+    CDimParams params = Dimension(L"A2", L"4", L"1", L"0");
+    params.weightFixed = -7;
+    dialog->SetCurrentFRowData(params);
+    EXPECT_EQ(Links().Text(2, 5), ResourceText(52712));
+    params.weightFixed = 0;
+    dialog->SetCurrentFRowData(params);
+    EXPECT_EQ(Links().Text(2, 5), ResourceText(52713));
+}
+
+TEST_F(EditingALink, DoesNotRepaintInTheWriteBack)
+{
+    EXPECT_EQ(RepaintsOf([this] {
+                  CDimParams params = Dimension(L"A2", L"4", L"1", L"0");
+                  dialog->SetCurrentFRowData(params);
+              }),
+              0);
+}
+
+TEST_F(EditingALink, WritesNothingBackWithTheFocusOnTheChainRow)
+{
+    FocusOnChain();
+    CDimParams params = Dimension(L"changed", L"1", L"1", L"0");
+    dialog->SetCurrentFRowData(params);
+    EXPECT_EQ(Links().Text(0, 0), L"Shaft");
+    ExpectLinkUntouched();
+    EXPECT_EQ(Links().Text(1, 0), L"A1");
+}
+
+// The focus row moves by the keyboard as well.
+TEST_F(EditingALink, FollowsTheFocusRowByKeyboard)
+{
+    PostKey(Links().Window(), VK_UP);
+    PumpUntilIdle();
+    CString name;
+    Command(ID_LINK_EDIT, {[&] {
+                name = ChildText(IDC_LINK_NAME);
+                ClickChild(IDC_LINK_CANCEL);
+            }});
+    EXPECT_EQ(name, L"A1");
+}
+
+class EditingTheClosingLink : public CalcDialogTest
+{
+protected:
+    EditingTheClosingLink()
+    {
+        OpenWith(kAnalytic);
+        CDimParams closing = Dimension(L"closing", L"6", L"0.15", L"-0.15", 1, 3);
+        closing.tolField = L"zz";
+        closing.weightFixed = 1;
+        AddClosing(closing, &closingObject);
+    }
+};
+
+TEST_F(EditingTheClosingLink, TellsTheHostBeforeItsDialogOpens)
+{
+    bool open = true;
+    host.On(kEditBegins, [&] { open = Child() != nullptr; });
+    Command(ID_CLOSING_EDIT, {[this] { ClickChild(IDC_CLOSING_CANCEL); }});
+    EXPECT_FALSE(open);
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 3}));
+}
+
+TEST_F(EditingTheClosingLink, FillsTheRecordFromTheRow)
+{
+    CDimParams params;
+    params.weightFixed = 9;
+    params.increasing = 9;
+    Command(ID_CLOSING_EDIT, {[&] {
+                dialog->GetCloseDimDlgParams(params);
+                ClickChild(IDC_CLOSING_CANCEL);
+            }});
+    EXPECT_EQ(params.name, L"");
+    EXPECT_EQ(params.nominal, L"6");
+    EXPECT_EQ(params.tolField, L"zz");
+    EXPECT_EQ(params.upperDev, L"0.15");
+    EXPECT_EQ(params.lowerDev, L"-0.15");
+    EXPECT_EQ(params.caption, ResourceText(52705));
+    EXPECT_EQ(params.weightFixed, 0);
+    EXPECT_EQ(params.increasing, 0);
+    EXPECT_EQ(params.dimKind, 3);
+}
+
+TEST_F(EditingTheClosingLink, ShowsTheRow)
+{
+    CString nominal;
+    CString caption;
+    CString field;
+    CString upper;
+    CString lower;
+    Command(ID_CLOSING_EDIT, {[&] {
+                nominal = ChildText(IDC_CLOSING_NOMINAL);
+                caption = ChildText(IDC_CLOSING_CAPTION);
+                field = ChildText(IDC_CLOSING_FIELD);
+                upper = ChildText(IDC_CLOSING_UPPER_DEV);
+                lower = ChildText(IDC_CLOSING_LOWER_DEV);
+                ClickChild(IDC_CLOSING_CANCEL);
+            }});
+    EXPECT_EQ(nominal, L"6");
+    EXPECT_EQ(caption, ResourceText(52705));
+    EXPECT_EQ(field, L"zz");
+    EXPECT_EQ(upper, L"0.15");
+    EXPECT_EQ(lower, L"-0.15");
+}
+
+TEST_F(EditingTheClosingLink, NeverWritesTheRowByItself)
+{
+    Command(ID_CLOSING_EDIT, {[this] {
+                WriteChild(IDC_CLOSING_UPPER_DEV, L"0.5");
+                ClickChild(IDC_CLOSING_OK);
+            }});
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 93}));
+    EXPECT_EQ(Closing().Text(0, 3), L"0.15");
+}
+
+TEST_F(EditingTheClosingLink, IsWrittenBackByTheHostWithItsNominal)
+{
+    const CDimLink* const record = Closing().Record(0);
+    host.On(kClosingAccepted, [this] {
+        CDimParams params;
+        dialog->GetCloseDimDlgParams(params);
+        params.nominal = L"8";
+        params.dimKind = 2;
+        dialog->SetCloseFRowData(params);
+    });
+    Command(ID_CLOSING_EDIT, {[this] {
+                WriteChild(IDC_CLOSING_UPPER_DEV, L"0.5");
+                WriteChild(IDC_CLOSING_LOWER_DEV, L"0");
+                ClickChild(IDC_CLOSING_OK);
+            }});
+    EXPECT_EQ(Closing().Texts(0), (std::vector<CString>{L"      X", L"8", L"zz", L"0.5", L"0"}));
+    EXPECT_EQ(Closing().Row(0).Item(0).value, 2);
+    EXPECT_EQ(Closing().Record(0), record) << "changed in place";
+    EXPECT_EQ(record->mean, 8.25);
+    EXPECT_EQ(record->hostObject, &closingObject);
+    EXPECT_EQ(record->law, 1);
+}
+
+TEST_F(EditingTheClosingLink, DoesNotRepaintInTheWriteBack)
+{
+    EXPECT_EQ(RepaintsOf([this] {
+                  CDimParams params = Dimension(L"", L"4", L"1", L"0");
+                  dialog->SetCloseFRowData(params);
+              }),
+              0);
+}
+
+TEST_F(EditingTheClosingLink, OpensEmptyAfterItWasDeleted)
+{
+    Command(ID_CLOSING_DELETE);
+    CDimParams params;
+    Command(ID_CLOSING_EDIT, {[&] {
+                dialog->GetCloseDimDlgParams(params);
+                ClickChild(IDC_CLOSING_CANCEL);
+            }});
+    EXPECT_EQ(params.nominal, L"");
+    EXPECT_EQ(Closing().Record(0), nullptr);
+}
+
+// A host's error that does no harm.
+TEST_F(EditingTheClosingLink, MakesNoRecordInTheWriteBack)
+{
+    Command(ID_CLOSING_DELETE);
+    CDimParams params = Dimension(L"", L"4", L"1", L"0");
+    dialog->SetCloseFRowData(params);
+    EXPECT_EQ(Closing().Record(0), nullptr);
+    EXPECT_EQ(dialog->GetCloseObject(), nullptr);
+}
+
+}  // namespace
