@@ -99,8 +99,9 @@ BOOL CFListCtrl::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
     return CListCtrlWithCustomDraw::OnNotify(wParam, lParam, result);
 }
 
+// A grid that its parent destroyed meanwhile has no window: the focus stays where it is.
 void CFListCtrl::TakeFocus()
 {
-    if (::GetFocus() != m_hWnd)
+    if (m_hWnd != nullptr && ::GetFocus() != m_hWnd)
         SetFocus();
 }

@@ -21,7 +21,7 @@ bool CFListCtrl::OpenEditor()
 bool CFListCtrl::OpenEditor(std::optional<TCHAR> typed)
 {
     CloseEditor();
-    if (m_rowMode || FocusRow() == nullptr)
+    if (m_rowMode || FocusRow() == nullptr || !IsShown(*FocusRow()))
         return false;
     const RowKey key = m_focusKey;
     const int column = m_focusColumn;

@@ -61,9 +61,11 @@ void CFListCtrl::OnRButtonDown(UINT flags, CPoint point)
         CListCtrlWithCustomDraw::OnRButtonDown(flags, point);
         return;
     }
-    SetFocusRow(RowAtIndex(hit->index)->Key(), true);
+    const RowKey key = RowAtIndex(hit->index)->Key();
+    SetFocusRow(key, true);
     TakeFocus();
-    AskForMenu(point);
+    if (FindRow(key) != nullptr)
+        AskForMenu(point);
 }
 
 // The menu key and Shift+F10 give no point: the menu belongs below the focus cell then. The mouse's menu has been shown

@@ -226,8 +226,8 @@ void CFListCtrl::ExpandRow(RowKey key)
         return;
     {
         const NotificationLock lock(*this);
-        row->m_collapsed = 0;
         ShowChildren(*row);
+        row->m_collapsed = 0;
         MakeRowsVisible(row->ListIndex(), row->LastChild()->ListIndex());
         SetFocusCell(m_focusKey, m_focusColumn, true);
     }
@@ -244,8 +244,6 @@ void CFListCtrl::CollapseRow(RowKey key)
     CFListRow* const row = FindRow(key);
     if (row == nullptr)
         return;
-    const CFListRow* const focus = FocusRow();
-    const bool focusRemoved = focus != nullptr && focus != row && focus->IsWithin(*row);
     {
         const NotificationLock lock(*this);
         const PaintingPause pause(*this);
@@ -253,7 +251,10 @@ void CFListCtrl::CollapseRow(RowKey key)
         HideChildren(*row, last);
     }
     Notify(kGridRowCollapsed, row, m_focusColumn, CellText(row, m_focusColumn));
-    if (focusRemoved)
+    // Only now: the parent may have moved the focus or deleted the row when it was told.
+    const CFListRow* const focus = FocusRow();
+    const CFListRow* const collapsed = FindRow(key);
+    if (focus != nullptr && collapsed != nullptr && !IsShown(*focus) && focus->IsWithin(*collapsed))
         SetFocusCell(key, m_focusColumn, true);
     RedrawRow(key);
 }

@@ -1,0 +1,294 @@
+#include "grid_window.h"
+#include "tests/support/message_pump.h"
+
+#include <ostream>
+
+// What a parent does while it is told something: it may delete, add and show rows, move the focus to another cell whose
+// editor opens, and destroy the grid.
+
+namespace
+{
+/// What the parent is told when it acts.
+struct Occasion
+{
+    const char* name;
+    UINT code;
+    int column;              // of T, where the focus is before
+    std::vector<UINT> keys;  // that lead to it
+};
+
+struct Reaction
+{
+    const char* name;
+    std::function<void(GridWindow&, RowKey told)> act;
+    int editor = 0;  // child ID of the one that it opens
+};
+
+void PrintTo(const Occasion& occasion, std::ostream* stream)
+{
+    *stream << occasion.name;
+}
+
+void PrintTo(const Reaction& reaction, std::ostream* stream)
+{
+    *stream << reaction.name;
+}
+
+constexpr int kEditColumn = 1;
+constexpr int kListColumn = 2;
+constexpr int kButtonColumn = 3;
+
+const Occasion kOccasions[] = {
+    {"Expanded", kGridRowExpanded, 0, {VK_SUBTRACT, VK_ADD}},
+    {"Collapsed", kGridRowCollapsed, 0, {VK_SUBTRACT}},
+    {"FocusMoved", kGridFocusMoved, 0, {VK_DOWN}},
+    {"FocusMovedToAnEditor", kGridFocusMoved, kEditColumn, {VK_RIGHT}},
+    {"BeginEdit", kGridBeginEdit, kEditColumn, {VK_RETURN}},
+    {"EndEdit", kGridEndEdit, kEditColumn, {VK_RETURN, VK_RETURN}},
+    {"ListContents", kGridListContents, kEditColumn, {VK_RIGHT}},
+    {"EndList", kGridEndList, kListColumn, {VK_RETURN, VK_RETURN}},
+    {"ButtonPressed", kGridButtonPressed, kButtonColumn, {VK_RETURN}},
+};
+
+RowKey LastTopRow(const CFListCtrl& grid)
+{
+    const CFListCtrl::CFListRow* row = grid.FirstTopRow();
+    while (row != nullptr && row->NextSibling() != nullptr)
+        row = row->NextSibling();
+    return row != nullptr ? row->Key() : nullptr;
+}
+
+void DeleteAllRows(CFListCtrl& grid)
+{
+    while (const auto* const row = grid.FirstTopRow())
+        grid.DeleteRow(row->Key());
+}
+
+const Reaction kReactions[] = {
+    {"DeletesTheRow", [](GridWindow& window, RowKey told) { window.grid.DeleteRow(told); }},
+    {"DeletesAllRows", [](GridWindow& window, RowKey) { DeleteAllRows(window.grid); }},
+    {"DestroysTheGrid", [](GridWindow& window, RowKey) { window.grid.DestroyWindow(); }},
+    {"AddsRows",
+     [](GridWindow& window, RowKey told) {
+         window.AddChild(told, L"N");
+         window.AddTop(L"N");
+     }},
+    {"InsertsAColumn",
+     [](GridWindow& window, RowKey) { window.grid.InsertFColumn(0, L"new", LVCFMT_LEFT, 40, false); }},
+    {"CollapsesTheRow", [](GridWindow& window, RowKey told) { window.grid.CollapseRow(told); }},
+    {"ExpandsTheRow", [](GridWindow& window, RowKey told) { window.grid.ExpandRow(told); }},
+    {"SwitchesToRows", [](GridWindow& window, RowKey) { window.grid.SetRowMode(true); }},
+    {"TakesTheKeyboard", [](GridWindow& window, RowKey) { ::SetFocus(window.GetSafeHwnd()); }},
+    {"OpensAnEdit",
+     [](GridWindow& window, RowKey) {
+         window.grid.SetFocusCell(LastTopRow(window.grid), kEditColumn, false);
+         window.grid.OpenEditor();
+     },
+     301},
+    {"OpensAList",
+     [](GridWindow& window, RowKey) { window.grid.SetFocusCell(LastTopRow(window.grid), kListColumn, true); }, 302},
+    {"OpensAButton",
+     [](GridWindow& window, RowKey) { window.grid.SetFocusCell(LastTopRow(window.grid), kButtonColumn, true); }, 303},
+};
+
+int EditorWindows(HWND grid)
+{
+    int editors = 0;
+    for (HWND child = ::GetWindow(grid, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+    {
+        const int id = ::GetDlgCtrlID(child);
+        editors += id >= 301 && id <= 303 ? 1 : 0;
+    }
+    return editors;
+}
+
+// T expanded with A and B, then U. Column 1 holds edit, column 2 list, column 3 button cells.
+class ParentReactions : public GridTest, public testing::WithParamInterface<std::tuple<Occasion, Reaction>>
+{
+protected:
+    ParentReactions()
+    {
+        grid.InsertFColumn(3, L"button", LVCFMT_LEFT, 80, false);
+        window.entries = {{L"one", 1}, {L"two", 2}};
+        window.selectedEntry = 0;
+        for (const RowKey key : {t, a, b, u})
+        {
+            grid.SetCellKind(key, kEditColumn, kCellEdit);
+            grid.SetCellKind(key, kListColumn, kCellList);
+            grid.SetCellKind(key, kButtonColumn, kCellButton);
+        }
+        grid.ExpandRow(t);
+    }
+
+    RowKey t = window.AddTop(L"T");
+    RowKey a = window.AddChild(t, L"A");
+    RowKey b = window.AddChild(t, L"B");
+    RowKey u = window.AddTop(L"U");
+};
+}  // namespace
+
+TEST_P(ParentReactions, LeaveTheGridInOrder)
+{
+    const auto& [occasion, reaction] = GetParam();
+    grid.SetFocusCell(t, occasion.column, true);
+    int reactions = 0;
+    window.onTold = [&](const NMFLISTCTRL& record) {
+        if (record.hdr.code == occasion.code && reactions++ == 0)
+            reaction.act(window, record.rowKey);
+    };
+    for (const UINT key : occasion.keys)
+        PressKey(key);
+    ASSERT_GT(reactions, 0);
+    PumpUntilIdle();
+
+    EXPECT_TRUE(grid.FocusKey() == nullptr || grid.FocusRow() != nullptr);
+    if (grid.GetSafeHwnd() == nullptr)
+    {
+        EXPECT_EQ(grid.RowCount(), 0);
+        EXPECT_FALSE(grid.HasEditor());
+        return;
+    }
+    EXPECT_TRUE(window.IndicesAreExact());
+    EXPECT_EQ(EditorWindows(grid.GetSafeHwnd()), grid.HasEditor() ? 1 : 0);
+    if (grid.HasEditor() || reaction.editor != 0)
+    {
+        EXPECT_TRUE(grid.HasEditor());
+        EXPECT_EQ(::GetParent(::GetFocus()), grid.GetSafeHwnd());
+    }
+    if (reaction.editor != 0)
+    {
+        EXPECT_NE(Editor(reaction.editor), nullptr);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Everywhere, ParentReactions,
+                         testing::Combine(testing::ValuesIn(kOccasions), testing::ValuesIn(kReactions)),
+                         [](const testing::TestParamInfo<std::tuple<Occasion, Reaction>>& info) {
+                             return std::string(std::get<0>(info.param).name) + std::get<1>(info.param).name;
+                         });
+
+namespace
+{
+using ParentReaction = GridTest;
+}
+
+TEST_F(ParentReaction, FocusMovedInsideCollapsedStaysThere)
+{
+    const RowKey t = window.AddTop(L"T");
+    const RowKey a = window.AddChild(t, L"A");
+    const RowKey u = window.AddTop(L"U");
+    grid.ExpandRow(t);
+    grid.SetFocusCell(a, 1, true);
+    window.TakeTold();
+    window.onTold = [&](const NMFLISTCTRL& record) {
+        if (record.hdr.code == kGridRowCollapsed)
+            grid.SetFocusCell(u, 2, true);
+    };
+    grid.CollapseRow(t);
+    EXPECT_EQ(grid.FocusKey(), u);
+    EXPECT_EQ(window.TakeTold(), (std::vector<std::string>{"1115 T 1 \"T1\"", "1116 U 2 \"U2\""}));
+}
+
+TEST_F(ParentReaction, EditorOfAFocusRowThatIsNotShownStaysClosed)
+{
+    const RowKey t = window.AddTop(L"T");
+    const RowKey a = window.AddChild(t, L"A");
+    for (const std::int32_t kind : {kCellEdit, kCellList, kCellButton})
+    {
+        SCOPED_TRACE(kind);
+        window.entries = {{L"one", 1}};
+        grid.SetCellKind(a, 1, kind);
+        grid.SetFocusCell(a, 1, false);
+        EXPECT_FALSE(grid.OpenEditor());
+        EXPECT_FALSE(grid.HasEditor());
+        EXPECT_TRUE(window.TakeTold().empty());
+        grid.SetFocusCell(nullptr, -1, false);
+    }
+}
+
+TEST_F(ParentReaction, GridDestroyedByARightClickLeavesTheKeyboardWhereItWas)
+{
+    const RowKey a = window.AddTop(L"A");
+    ::SetFocus(window.GetSafeHwnd());
+    window.onTold = [&](const NMFLISTCTRL&) { grid.DestroyWindow(); };
+    RightClick(grid, CellCentre(a, 2));
+    EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(::GetFocus(), window.GetSafeHwnd());
+}
+
+TEST_F(ParentReaction, GridDestroyedByADoubleClickSendsNoCommand)
+{
+    const RowKey a = window.AddTop(L"A");
+    grid.SetCellKind(a, 2, kCellEdit);
+    window.answers[kGridBeginEdit] = 1;
+    window.onTold = [&](const NMFLISTCTRL& record) {
+        if (record.hdr.code == kGridBeginEdit)
+            grid.DestroyWindow();
+    };
+    DoubleClick(grid, CellCentre(a, 2));
+    EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(window.TakeTold(), (std::vector<std::string>{"1116 A 2 \"A2\"", "1117 A 2 \"A2\""}));
+}
+
+namespace
+{
+/// A parent that is asked beyond the notifications, and acts then.
+class AskedParent : public GridWindow, public GridEditMenuParent, public GridSelectionParent
+{
+public:
+    AskedParent() { grid.InsertFColumn(0, L"", LVCFMT_LEFT, 100, true); }
+
+    std::function<void()> act;
+    int asked = 0;
+
+    void TrackEditMenu(CPoint, int) override { Act(); }
+    void OnSelectionChanged(int, void*) override { Act(); }
+
+private:
+    void Act()
+    {
+        ++asked;
+        if (act)
+            act();
+    }
+};
+}  // namespace
+
+TEST(AskedParentReactions, MayDestroyTheGrid)
+{
+    for (void (*const click)(const CWnd&, CPoint) : {&LeftClick, &DoubleClick, &RightClick})
+    {
+        AskedParent parent;
+        const RowKey a = parent.AddTop(L"A");
+        parent.act = [&] { parent.grid.DestroyWindow(); };
+        click(parent.grid, parent.grid.GetCellRect(a, 0).CenterPoint());
+        EXPECT_EQ(parent.asked, 1);
+        EXPECT_EQ(parent.grid.GetSafeHwnd(), nullptr);
+    }
+}
+
+TEST(AskedParentReactions, MayDeleteTheRow)
+{
+    for (void (*const click)(const CWnd&, CPoint) : {&LeftClick, &DoubleClick, &RightClick})
+    {
+        AskedParent parent;
+        const RowKey a = parent.AddTop(L"A");
+        const RowKey b = parent.AddTop(L"B");
+        parent.act = [&] { parent.grid.DeleteRow(a); };
+        click(parent.grid, parent.grid.GetCellRect(a, 0).CenterPoint());
+        EXPECT_EQ(parent.ShownNames(), "B");
+        EXPECT_EQ(parent.grid.FocusKey(), b);
+    }
+}
+
+// The menu is of the row under the pointer: no row, no menu.
+TEST(AskedParentReactions, MenuIsNotAskedForARowThatIsDeletedWhenItTakesTheFocus)
+{
+    AskedParent parent;
+    const RowKey a = parent.AddTop(L"A");
+    parent.AddTop(L"B");
+    parent.onTold = [&](const NMFLISTCTRL& record) { parent.grid.DeleteRow(record.rowKey); };
+    RightClick(parent.grid, parent.grid.GetCellRect(a, 0).CenterPoint());
+    EXPECT_EQ(parent.ShownNames(), "B");
+    EXPECT_EQ(parent.asked, 0);
+}
