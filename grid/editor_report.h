@@ -11,7 +11,8 @@ struct EditedCell
 {
     RowKey rowKey = nullptr;
     std::int32_t column = -1;
-    UINT endingKey = 0;  // 0: the editor lost the focus otherwise
+    UINT endingKey = 0;   // 0: the editor lost the focus otherwise
+    bool isMade = false;  // its window is complete: from here on the editor deletes itself with it
 };
 
 /// Ends an editor by a key: stores it and gives the focus to the grid, so that the focus loss closes the editor. The

@@ -11,14 +11,14 @@ int lastToldColumn = -1;
 
 void CFListCtrl::SetFocusCell(RowKey key, int column, bool notify)
 {
-    const int target = m_rowMode || key == nullptr ? -1 : std::max(column, 0);
-    if (key != m_editorKey || target != m_editorColumn)
-        CloseEditor();
     const CFListRow* const row = FindRow(key);
     if (key != nullptr && row == nullptr)
         return;
+    const int target = m_rowMode || key == nullptr ? -1 : std::max(column, 0);
     if (target >= 0)
         row->Item(target);  // raises for a missing column
+    if (key != m_editorKey || target != m_editorColumn)
+        CloseEditor();
 
     const RowKey former = m_focusKey;
     m_focusKey = key;

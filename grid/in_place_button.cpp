@@ -47,6 +47,7 @@ int CInPlaceButton::OnCreate(LPCREATESTRUCT create)
         return -1;
     SetFont(GetParent()->GetFont());
     SetWindowText(m_caption);
+    m_cell.isMade = true;
     return 0;
 }
 
@@ -61,7 +62,8 @@ void CInPlaceButton::OnKillFocus(CWnd* newFocus)
 void CInPlaceButton::OnNcDestroy()
 {
     CButton::OnNcDestroy();
-    delete this;
+    if (m_cell.isMade)
+        delete this;
 }
 
 UINT CInPlaceButton::OnGetDlgCode()

@@ -52,6 +52,7 @@ int CInPlaceEdit::OnCreate(LPCREATESTRUCT create)
     else
         SetSel(m_initialText.GetLength(), m_initialText.GetLength());
     SendMessage(EM_SCROLLCARET);
+    m_cell.isMade = true;
     return 0;
 }
 
@@ -66,7 +67,8 @@ void CInPlaceEdit::OnKillFocus(CWnd* newFocus)
 void CInPlaceEdit::OnNcDestroy()
 {
     CEdit::OnNcDestroy();
-    delete this;
+    if (m_cell.isMade)
+        delete this;
 }
 
 // Enter and Escape would otherwise be the dialog's.

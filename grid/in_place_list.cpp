@@ -40,6 +40,7 @@ int CInPlaceList::OnCreate(LPCREATESTRUCT create)
     for (int entry = 0; entry < m_entries.GetSize(); ++entry)
         SetItemData(AddString(m_entries[entry].text), static_cast<DWORD_PTR>(m_entries[entry].value));
     SetCurSel(m_selected);
+    m_cell.isMade = true;
     return 0;
 }
 
@@ -98,7 +99,8 @@ void CInPlaceList::OnKillFocus(CWnd* newFocus)
 void CInPlaceList::OnNcDestroy()
 {
     CComboBox::OnNcDestroy();
-    delete this;
+    if (m_cell.isMade)
+        delete this;
 }
 
 UINT CInPlaceList::OnGetDlgCode()

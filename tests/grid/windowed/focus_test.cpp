@@ -137,6 +137,16 @@ TEST_F(GridFocus, MovingTheFocusClosesAnEditorElsewhere)
     EXPECT_FALSE(grid.HasEditor());
 }
 
+TEST_F(GridFocus, UnknownRowLeavesFocusAndEditorAlone)
+{
+    grid.SetCellKind(b, 1, kCellEdit);
+    grid.SetFocusCell(b, 1, false);
+    ASSERT_TRUE(grid.OpenEditor());
+    grid.SetFocusCell(&grid, 0, true);
+    EXPECT_TRUE(grid.HasEditor());
+    EXPECT_EQ(grid.FocusKey(), b);
+}
+
 // The parent's own move inside the notification stands.
 TEST_F(GridFocus, ParentMayMoveTheFocusWhenItIsTold)
 {

@@ -1,6 +1,7 @@
 #include "grid_window.h"
 #include "tests/support/framework_printers.h"
 #include "tests/support/message_pump.h"
+#include "tests/support/resource_count.h"
 
 namespace
 {
@@ -301,6 +302,46 @@ TEST_F(ListEditor, RowDeletedUnderItClosesItWithoutCommit)
     EXPECT_TRUE(window.TakeTold().empty());
     EXPECT_EQ(grid.FocusKey(), b);
     EXPECT_FALSE(grid.HasEditor());
+}
+
+namespace
+{
+/// Lets no drop-down part be made, so that the combo box it belongs to fails too.
+class NoDropDownParts
+{
+public:
+    NoDropDownParts() : m_hook(::SetWindowsHookExW(WH_CBT, &OnHook, nullptr, ::GetCurrentThreadId())) {}
+    ~NoDropDownParts() { ::UnhookWindowsHookEx(m_hook); }
+    NoDropDownParts(const NoDropDownParts&) = delete;
+    NoDropDownParts& operator=(const NoDropDownParts&) = delete;
+
+private:
+    static LRESULT CALLBACK OnHook(int code, WPARAM wParam, LPARAM lParam)
+    {
+        wchar_t name[20] = {};
+        if (code == HCBT_CREATEWND)
+            ::GetClassNameW(reinterpret_cast<HWND>(wParam), name, 20);
+        return ::_wcsicmp(name, L"ComboLBox") == 0 ? 1 : ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    HHOOK m_hook;
+};
+}  // namespace
+
+TEST_F(ListEditor, ThatCannotBeMadeLeavesNothingBehind)
+{
+    const auto openInVain = [&] {
+        const NoDropDownParts none;
+        EXPECT_EQ(OpenIt(), nullptr);
+        grid.SetFocusCell(a, 1, true);
+        window.TakeTold();
+    };
+    openInVain();  // the first time may keep memory for good
+    const std::size_t blocks = HeapBlockCount();
+    openInVain();
+    EXPECT_EQ(HeapBlockCount(), blocks);
+    EXPECT_FALSE(grid.HasEditor());
+    EXPECT_EQ(::GetDlgItem(grid.GetSafeHwnd(), 302), nullptr);
 }
 
 TEST_F(ListEditor, GridDestroyedWhileItIsOpenTakesItAlong)
