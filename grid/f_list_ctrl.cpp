@@ -12,6 +12,8 @@ BEGIN_MESSAGE_MAP(CFListCtrl, CListCtrlWithCustomDraw)
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
     ON_WM_MOUSEWHEEL()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
     // keyboard
     ON_MESSAGE(WM_GETDLGCODE, &CFListCtrl::OnGetDlgCode)
     ON_WM_KEYDOWN()
@@ -87,6 +89,19 @@ BOOL CFListCtrl::OnMouseWheel(UINT flags, short distance, CPoint screenPoint)
 {
     CloseEditor();
     return CListCtrlWithCustomDraw::OnMouseWheel(flags, distance, screenPoint);
+}
+
+// Without a focus row only the keyboard focus shows, see PaintCell.
+void CFListCtrl::OnSetFocus(CWnd* former)
+{
+    CListCtrlWithCustomDraw::OnSetFocus(former);
+    RedrawFocusRow(m_focusKey);
+}
+
+void CFListCtrl::OnKillFocus(CWnd* next)
+{
+    CListCtrlWithCustomDraw::OnKillFocus(next);
+    RedrawFocusRow(m_focusKey);
 }
 
 // Columns that change their width or their order move the cells too.

@@ -129,6 +129,8 @@ protected:
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg BOOL OnMouseWheel(UINT flags, short distance, CPoint screenPoint);
+    afx_msg void OnSetFocus(CWnd* former);
+    afx_msg void OnKillFocus(CWnd* next);
     // keyboard
     afx_msg LRESULT OnGetDlgCode(WPARAM key, LPARAM message);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
@@ -176,6 +178,7 @@ private:
     void Forget(CFListRow& row);
     void RedrawRow(const CFListRow& row);
     void RedrawRow(RowKey key);
+    void RedrawFocusRow(RowKey key);
     // cells
     static CString CellText(const CFListRow* row, int column);  // empty for no row or column
     CellTraits TraitsOf(const CFListRow& row, int column) const;
@@ -304,7 +307,6 @@ private:
     CFListRow* m_previousSibling = nullptr;
     CFListRow* m_nextSibling = nullptr;
     RowList m_children;
-    POSITION m_position = nullptr;  // in the parent's children or the grid's top rows
     CTypedPtrArray<CPtrArray, CFListItem*> m_items;
     std::int32_t m_collapsed = 1;
     std::int32_t m_level = 0;
@@ -312,4 +314,5 @@ private:
     RowKey m_key;
     void* m_userData;
     std::int32_t m_bold = 0;
+    POSITION m_position = nullptr;  // in the parent's children or the grid's top rows
 };

@@ -23,8 +23,8 @@ void CFListCtrl::SetFocusCell(RowKey key, int column, bool notify)
     const RowKey former = m_focusKey;
     m_focusKey = key;
     m_focusColumn = target;
-    RedrawRow(former);
-    RedrawRow(key);
+    RedrawFocusRow(former);
+    RedrawFocusRow(key);
     if (notify)
         TellFocusMoved();
     if (m_focusKey == key && m_focusColumn == target)

@@ -73,6 +73,8 @@ void CFListCtrl::OnRButtonDown(UINT flags, CPoint point)
 void CFListCtrl::OnContextMenu(CWnd* wnd, CPoint screenPoint)
 {
     const bool byKeyboard = screenPoint == CPoint(-1, -1);
+    if (byKeyboard && FocusRow() == nullptr)
+        MoveFocus(GridMove::Up);  // to the first row, as with any key that moves
     if (!byKeyboard || FocusRow() == nullptr)
     {
         CListCtrlWithCustomDraw::OnContextMenu(wnd, screenPoint);

@@ -94,7 +94,9 @@ void CFListCtrl::PaintCell(CDC& dc, const CRect& cell, const CFListRow& row, int
                           : focusRow ? ::GetSysColor(COLOR_HIGHLIGHTTEXT)
                                      : ::GetSysColor(COLOR_WINDOWTEXT);
     dc.FillSolidRect(&cell, back);
-    if (focusRow)
+    // A grid without a focus row that has the keyboard shows it on the row that the first key leads to.
+    const bool keyboardHere = m_focusKey == nullptr && &row == FirstTopRow() && ::GetFocus() == m_hWnd;
+    if (focusRow || keyboardHere)
     {
         // The dotted line is drawn in the DC's colours; black on white inverts every second pixel.
         dc.SetTextColor(RGB(0, 0, 0));

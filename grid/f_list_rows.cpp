@@ -278,3 +278,11 @@ void CFListCtrl::RedrawRow(RowKey key)
     if (const CFListRow* const row = FindRow(key))
         RedrawRow(*row);
 }
+
+// @param key  null for no focus row: then the first row shows where the keyboard is
+void CFListCtrl::RedrawFocusRow(RowKey key)
+{
+    const CFListRow* const row = key != nullptr ? FindRow(key) : FirstTopRow();
+    if (row != nullptr)
+        RedrawRow(*row);
+}

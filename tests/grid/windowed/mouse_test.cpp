@@ -237,11 +237,39 @@ TEST(GridMenuParent, IsAskedForTheMenuBelowTheFocusCellByTheMenuKey)
     EXPECT_EQ(parent.menus[0].second, 1000);
 }
 
-TEST(GridMenuParent, IsNotAskedByTheMenuKeyWithoutFocusRow)
+TEST(GridMenuParent, MenuKeyWithoutFocusRowIsForTheFirstRow)
+{
+    MenuParent parent;
+    parent.grid.InsertFColumn(0, L"", LVCFMT_LEFT, 100, true);
+    const RowKey a = parent.AddTop(L"A");
+    parent.AddTop(L"B");
+    parent.grid.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(parent.grid.GetSafeHwnd()), -1);
+    EXPECT_EQ(parent.menus.size(), 1U);
+    EXPECT_EQ(parent.focusAtMenu, a);
+    EXPECT_EQ(parent.TakeTold(), (Told{"1116 A -1 \"\""}));
+}
+
+TEST(GridMenuParent, IsNotAskedByTheMenuKeyWithoutRows)
 {
     MenuParent parent;
     parent.grid.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(parent.grid.GetSafeHwnd()), -1);
     EXPECT_TRUE(parent.menus.empty());
+}
+
+// An open list or button has the keyboard; the menu of its row can be had all the same.
+TEST(GridMenuParent, IsAskedByTheMenuKeyInAnOpenButton)
+{
+    MenuParent parent;
+    parent.grid.SetRowMode(false);
+    parent.grid.InsertFColumn(0, L"", LVCFMT_LEFT, 100, true);
+    const RowKey a = parent.AddTop(L"A");
+    parent.grid.SetCellKind(a, 0, kCellButton);
+    parent.grid.SetFocusCell(a, 0, false);
+    ASSERT_TRUE(parent.grid.HasEditor());
+    ::SendMessageW(::GetFocus(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(::GetFocus()), -1);
+    EXPECT_EQ(parent.menus.size(), 1U);
+    EXPECT_EQ(parent.focusAtMenu, a);
+    EXPECT_FALSE(parent.grid.HasEditor());
 }
 
 TEST(GridSelectionParent, IsToldOfEveryClickOnARow)

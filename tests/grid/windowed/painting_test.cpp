@@ -145,6 +145,29 @@ TEST_F(GridPainting, CellsOfTheFocusRowHaveADottedEdge)
     EXPECT_EQ(CellPixel(t, 1, 10, 0), CellPixel(t, 1, 11, 0));
 }
 
+// Who comes by the keyboard sees where it is: the first key goes to the first row.
+TEST_F(GridPainting, FirstRowHasADottedEdgeWhileTheGridHasTheKeyboardButNoFocusRow)
+{
+    const auto dots = [&](RowKey key) {
+        int changed = 0;
+        for (int offset = 10; offset < 30; ++offset)
+            changed += CellPixel(key, 2, offset, 0) == CellPixel(key, 2, offset, 1) ? 0 : 1;
+        return changed;
+    };
+    ASSERT_EQ(::GetFocus(), grid.GetSafeHwnd());
+    EXPECT_EQ(dots(t), 10);
+    EXPECT_EQ(Middle(t, 2, 70), window_);
+    EXPECT_EQ(dots(u), 0);
+    ::SetFocus(window.GetSafeHwnd());
+    EXPECT_EQ(dots(t), 0);
+    grid.SetFocus();
+    EXPECT_EQ(dots(t), 10);
+    grid.SetFocusCell(u, 1, false);
+    EXPECT_EQ(dots(t), 0);
+    grid.SetFocusCell(nullptr, -1, false);
+    EXPECT_EQ(dots(t), 10);
+}
+
 TEST_F(GridPainting, ExpandImageFollowsTheState)
 {
     EXPECT_EQ(Middle(t, 0, 12), collapsed);
