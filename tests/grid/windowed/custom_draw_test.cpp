@@ -1,4 +1,5 @@
 #include "grid/custom_draw_list_ctrl.h"
+#include "grid/f_list_ctrl.h"
 
 #include <gtest/gtest.h>
 
@@ -214,6 +215,42 @@ TEST(CustomDrawHooks, LeaveEverythingToTheListUnlessOverridden)
     EXPECT_EQ(drawn.Stage(kSubItemPrePaint), CDRF_DODEFAULT);
     EXPECT_EQ(drawn.record.clrText, 0xFF000000);
     EXPECT_EQ(drawn.Stage(kSubItemPostPaint), CDRF_DODEFAULT);
+}
+
+namespace
+{
+/// A grid whose drawing is written down instead.
+class DrawingGrid : public CFListCtrl
+{
+public:
+    std::vector<std::string> ran;
+
+protected:
+    bool DrawControl(CDC& dc) override
+    {
+        ran.emplace_back("DrawControl");
+        return CFListCtrl::DrawControl(dc);
+    }
+    bool PaintItem(CDC& dc, int item, UINT state, LPARAM data) override
+    {
+        ran.emplace_back("PaintItem");
+        return CFListCtrl::PaintItem(dc, item, state, data);
+    }
+    bool PaintSubItem(CDC&, int, int, UINT, LPARAM) override
+    {
+        ran.emplace_back("PaintSubItem");
+        return true;
+    }
+};
+}  // namespace
+
+TEST(GridDrawing, WantsControlItemsAndSubItemsAndSkipsTheDefaultOfSubItemsAlone)
+{
+    DrawnList<DrawingGrid> drawn;
+    EXPECT_EQ(drawn.Stage(CDDS_PREPAINT), 0x20);
+    EXPECT_EQ(drawn.Stage(CDDS_ITEMPREPAINT), 0x20);
+    EXPECT_EQ(drawn.Stage(kSubItemPrePaint), 0x04);
+    EXPECT_EQ(drawn.list.ran, (Ran{"DrawControl", "PaintItem", "PaintSubItem"}));
 }
 
 TEST_F(CustomDraw, ControlPrePaintAsksItsHooks)

@@ -114,6 +114,24 @@ TEST_F(GridTree, NothingIsToldOfTheFocusWhileExpanding)
     EXPECT_EQ(window.TakeTold(), (Told{"1114 T 0 \"T\" expanded"}));
 }
 
+// The focus is set again, and a button opens at once; the entries of a list can't be asked for meanwhile.
+TEST_F(GridTree, ExpandingBringsTheButtonOfTheFocusCellBackAndNoList)
+{
+    window.entries = {{L"one", 1}};
+    grid.SetCellKind(u, 1, kCellButton);
+    grid.SetCellKind(u, 2, kCellList);
+    grid.SetFocusCell(u, 1, false);
+    grid.ExpandRow(t);
+    EXPECT_NE(Editor(303), nullptr);
+    grid.CollapseRow(t);
+    grid.SetFocusCell(u, 2, false);
+    ASSERT_NE(Editor(302), nullptr);
+    window.TakeTold();
+    grid.ExpandRow(t);
+    EXPECT_FALSE(grid.HasEditor());
+    EXPECT_EQ(window.TakeTold(), (Told{"1114 T 2 \"T2\" expanded"}));
+}
+
 TEST_F(GridTree, ExpandedRowAndItsLastChildAreMadeVisible)
 {
     for (int row = 0; row < 30; ++row)

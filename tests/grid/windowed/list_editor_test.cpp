@@ -80,6 +80,26 @@ TEST_F(ListEditor, ClosedListCoversTheCellExactly)
     EXPECT_EQ(place, grid.GetCellRect(a, 2));
 }
 
+// It shows whole entries only.
+TEST_F(ListEditor, DropDownPartIsTenCellsHighLessAPartOfAnEntry)
+{
+    window.entries.assign(40, {L"entry", 1});
+    const HWND list = OpenIt();
+    ::SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof(info);
+    ASSERT_TRUE(::GetComboBoxInfo(list, &info));
+    CRect part;
+    ::GetWindowRect(info.hwndList, &part);
+    grid.ScreenToClient(&part);
+    const CRect cell = grid.GetCellRect(a, 2);
+    EXPECT_EQ(part.top, cell.bottom);
+    EXPECT_EQ(part.left, cell.left);
+    EXPECT_EQ(part.right, cell.right);
+    EXPECT_GT(part.Height(), 9 * cell.Height());
+    EXPECT_LE(part.Height(), 10 * cell.Height());
+}
+
 // The combo box hands the scroll bar it was created with on to its drop-down part.
 TEST_F(ListEditor, HasItsStyleWithoutClientEdge)
 {
