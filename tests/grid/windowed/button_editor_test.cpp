@@ -138,6 +138,18 @@ TEST_F(ButtonEditor, OtherKeysArePassedOn)
     EXPECT_NE(Button(), nullptr);
 }
 
+TEST_F(ButtonEditor, GrowsToItsTextAfterACharacter)
+{
+    ::SetWindowTextW(Button(), L"a text wider than the button");
+    CRect before;
+    ::GetWindowRect(Button(), &before);
+    TypeText(L"x");
+    CRect after;
+    ::GetWindowRect(Button(), &after);
+    EXPECT_EQ(after.left, before.left);
+    EXPECT_GT(after.Width(), 3 * before.Width());
+}
+
 TEST_F(ButtonEditor, RowDeletedUnderItClosesItWithoutAPress)
 {
     const HWND button = Button();

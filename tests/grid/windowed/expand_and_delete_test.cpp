@@ -114,6 +114,15 @@ TEST_F(GridTree, NothingIsToldOfTheFocusWhileExpanding)
     EXPECT_EQ(window.TakeTold(), (Told{"1114 T 0 \"T\" expanded"}));
 }
 
+TEST_F(GridTree, FocusSetAgainByExpandingDoesNotCountAsTold)
+{
+    grid.SetFocusCell(t, 1, false);
+    grid.ExpandRow(t);
+    window.TakeTold();
+    grid.SetFocusCell(t, 1, true);
+    EXPECT_EQ(window.TakeTold(), (Told{"1116 T 1 \"T1\" expanded"}));
+}
+
 // The focus is set again, and a button opens at once; the entries of a list can't be asked for meanwhile.
 TEST_F(GridTree, ExpandingBringsTheButtonOfTheFocusCellBackAndNoList)
 {

@@ -240,7 +240,9 @@ TEST_F(GridKeys, RowModeMovesByRowsAlone)
     window.TakeTold();
     for (const UINT key : {VK_TAB, VK_HOME, VK_END, VK_LEFT, VK_RIGHT, VK_RETURN, VK_F2})
         PressKey(key);
+    TypeText(L"7");
     EXPECT_TRUE(window.TakeTold().empty());
+    EXPECT_FALSE(grid.HasEditor());
     PressKey(VK_DOWN);
     EXPECT_EQ(window.TakeTold(), (Told{"1116 A -1 \"\""}));
 }

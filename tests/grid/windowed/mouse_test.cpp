@@ -120,6 +120,21 @@ TEST_F(GridMouse, RowModeTogglesAnyCheckBoxOfTheFocusRow)
     EXPECT_EQ(grid.FindRow(u)->Item(1).checked, 1);
 }
 
+TEST_F(GridMouse, ClickMakesAPartlyVisibleRowVisible)
+{
+    for (int row = 0; row < 40; ++row)
+        window.AddTop(L"V");
+    const RowKey below = grid.RowAtIndex(grid.GetTopIndex() + grid.GetCountPerPage())->Key();
+    CRect client;
+    grid.GetClientRect(&client);
+    const CRect before = grid.GetCellRect(below, 1);
+    ASSERT_LT(before.top + 2, client.bottom);
+    ASSERT_GT(before.bottom, client.bottom);
+    LeftClick(grid, CPoint(before.left + 30, before.top + 1));
+    EXPECT_EQ(grid.FocusKey(), below);
+    EXPECT_LE(grid.GetCellRect(below, 1).bottom, client.bottom);
+}
+
 TEST_F(GridMouse, ClickFollowsTheShownOrderOfTheColumns)
 {
     int order[] = {2, 1, 0};
