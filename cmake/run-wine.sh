@@ -8,6 +8,11 @@ mkdir -p "$WINEPREFIX" || exit
 (
     flock 8 # one warm-up at a time; 8>&-: the server must not inherit the lock
     if wineserver -p 8>&- || ! [ -e "$WINEPREFIX/.ready" ]; then
+        if ! [ -e "$WINEPREFIX/.ready" ]; then
+            # The package fonts-wine has the fonts that dialogs are measured in, but Wine looks for them in the prefix.
+            fonts=$WINEPREFIX/drive_c/windows/Fonts
+            mkdir -p "$fonts" && cp /usr/share/wine/fonts/* "$fonts"
+        fi
         wine wineboot 8>&- # starts the services without our standard streams, else a pipe behind us never ends
         if ! [ -e "$WINEPREFIX/.ready" ]; then
             # Managed=N: without a window manager every hidden top-level window would block for two seconds.
