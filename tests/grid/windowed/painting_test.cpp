@@ -237,6 +237,7 @@ TEST_F(GridPainting, EachLevelIsIndentedByTwentyPixels)
 
 TEST_F(GridPainting, ColumnWithImageSpaceKeepsTwentyPixels)
 {
+    grid.SetCellText(u, 2, L" I");  // clear of the grid line, which hides the cell's first pixels
     const int before = TextSpan(u, 2, window_).first;
     grid.Column(2).imageSpace = 1;
     grid.Invalidate();
