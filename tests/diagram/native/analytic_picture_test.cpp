@@ -150,6 +150,24 @@ TEST(AnalyticPicture, DecimalFieldsThatAreEqualAreAllGreen)
     EXPECT_EQ(TextOf<RectPrimitive>(list), "rect 61DC05 60 140 340 180\n");
 }
 
+// A computed deviation is a multiple of 1e-9 in doubles, a required one the nearest double of its text. Their columns
+// may differ by one, where the quotient is a whole number but for its last bits.
+TEST(AnalyticPicture, DecimalFieldsThatAreEqualAreAllGreenAtEverySize)
+{
+    for (int thousandths = 1; thousandths <= 2000; ++thousandths)
+    {
+        const double required = thousandths / 1000.0;
+        const double computed = thousandths * 1e6 * 1e-9;
+        for (const DeviationCase& deviations : {DeviationCase{required, -2 * required, computed, -2 * computed},
+                                                DeviationCase{2 * required, -required, 2 * computed, -computed}})
+        {
+            const auto bar = AllOf<RectPrimitive>(LayoutChainDiagram(AnalyticInput(deviations)));
+            ASSERT_EQ(bar.size(), 1U) << required;
+            ASSERT_EQ(bar[0].color, (Rgb{97, 220, 5})) << required;
+        }
+    }
+}
+
 // 0.98 of 140 pixels are 137.2.
 TEST(AnalyticPicture, ASmallExcessIsRedFromItsMarkerOn)
 {

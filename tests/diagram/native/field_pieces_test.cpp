@@ -92,6 +92,15 @@ TEST(FieldPieces, LimitsCloserThanANanoAreEqual)
     EXPECT_TRUE(equal[0].isInside);
 }
 
+TEST(FieldPieces, LimitsTwoNanosApartDiffer)
+{
+    const auto pieces = Cut({12e-9, -12e-9, 14e-9, -14e-9});
+    ASSERT_EQ(pieces.size(), 3U);
+    EXPECT_FALSE(pieces[0].isInside);
+    EXPECT_TRUE(pieces[1].isInside);
+    EXPECT_FALSE(pieces[2].isInside);
+}
+
 // Both fields are a single nano wide, as narrow as two limits that count as equal.
 TEST(FieldPieces, TheNarrowestFieldEqualToTheRequiredOneIsInside)
 {

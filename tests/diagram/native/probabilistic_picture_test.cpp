@@ -111,6 +111,21 @@ TEST(ProbabilisticPicture, EveryLawWhollyInsideIsGreenAndInOnePiece)
     }
 }
 
+// Nothing lies between the required limits; they still cut the shape in two.
+TEST(ProbabilisticPicture, EveryLawIsRedOnBothSidesOfRequiredLimitsThatAreOne)
+{
+    for (const std::int32_t law : {kNormal, kUniform, kTriangular})
+    {
+        SCOPED_TRACE(law);
+        const auto fills = AllOf<FillPrimitive>(Picture({7, 7, 14, -14}, law));
+        ASSERT_EQ(fills.size(), 2U);
+        EXPECT_EQ(fills[0].color, (Rgb{255, 0, 0}));
+        EXPECT_EQ(fills[0].corners.back(), (PixelPoint{270, 300}));
+        EXPECT_EQ(fills[1].color, (Rgb{255, 0, 0}));
+        EXPECT_EQ(fills[1].corners.front(), (PixelPoint{270, 300}));
+    }
+}
+
 TEST(ProbabilisticPicture, EveryPieceIsOutlinedAndClosedOverItsFill)
 {
     for (const std::int32_t law : {kNormal, kUniform, kTriangular})
