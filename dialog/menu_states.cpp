@@ -3,7 +3,7 @@
 #include "calc/chain_calculation.h"
 #include "platform/moduleskin/resource.h"
 
-std::array<CommandState, 11> MenuBarStates(const ChainState& state)
+std::array<CommandState, kMenuBarCommands> MenuBarStates(const ChainState& state)
 {
     const bool hasMethod = state.method != 0;
     const bool links = hasMethod && state.hasLinks;

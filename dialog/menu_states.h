@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 // Which commands of the calculation dialog can be chosen. Window-free.
@@ -19,9 +20,11 @@ struct CommandState
     bool enabled = false;
 };
 
+inline constexpr std::size_t kMenuBarCommands = 11;
+
 /// All commands of the menu bar but the two methods, which can always be chosen. Without a method nothing else can;
 /// distributions are offered under the probabilistic method only, since the analytic one ignores laws and means.
-std::array<CommandState, 11> MenuBarStates(const ChainState& state);
+std::array<CommandState, kMenuBarCommands> MenuBarStates(const ChainState& state);
 
 /// The commands of the chain list's context menu. Unlike in the menu bar, links can be edited and deleted without a
 /// method, too.
