@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <random>
@@ -28,12 +29,7 @@ struct IsPaintable
     bool operator()(PixelPoint point) const { return std::abs(point.x) < kFarthest && std::abs(point.y) < kFarthest; }
     bool operator()(const std::vector<PixelPoint>& points) const
     {
-        for (const PixelPoint& point : points)
-        {
-            if (!(*this)(point))
-                return false;
-        }
-        return true;
+        return std::ranges::all_of(points, [this](PixelPoint point) { return (*this)(point); });
     }
     bool operator()(const LinePrimitive& line) const { return (*this)(line.start) && (*this)(line.end); }
     bool operator()(const TextPrimitive& text) const { return (*this)(text.anchor); }
