@@ -179,10 +179,10 @@ std::string LineAndColumn(std::string_view text, std::size_t byte)
 {
     std::size_t line = 1;
     std::size_t column = 1;
-    for (const char c : text.substr(0, byte == 0 ? 0 : byte - 1))
+    for (const char unit : text.substr(0, byte == 0 ? 0 : byte - 1))
     {
-        const bool continuesCharacter = (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
-        if (c == '\n')
+        const bool continuesCharacter = (static_cast<unsigned char>(unit) & 0xC0U) == 0x80U;
+        if (unit == '\n')
         {
             ++line;
             column = 1;

@@ -71,11 +71,11 @@ TEST(CommandLine, MistakesAreNamed)
         {{"--timeout", "5"}, "--play"},
         {{"--play", "a.play", "--play", "b.play"}, "--play"},
     };
-    for (const Case& c : cases)
+    for (const Case& tested : cases)
     {
-        SCOPED_TRACE(testing::PrintToString(c.arguments));
-        const Refusal refusal = RefusalOf(c.arguments);
+        SCOPED_TRACE(testing::PrintToString(tested.arguments));
+        const Refusal refusal = RefusalOf(tested.arguments);
         EXPECT_EQ(refusal.exitCode, 2);
-        EXPECT_NE(refusal.text.find(c.named), std::string::npos) << refusal.text;
+        EXPECT_NE(refusal.text.find(tested.named), std::string::npos) << refusal.text;
     }
 }

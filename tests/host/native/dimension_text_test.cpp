@@ -58,13 +58,13 @@ TEST(DimensionText, WritesNameNominalFieldAndSignedDeviations)
         // kind 2 has no tolerance, whatever the drawing says
         {Dimension("A", "1", "h8", "0.1", "-0.1", 2), "A = 1", "", ""},
     };
-    for (const Case& c : cases)
+    for (const Case& tested : cases)
     {
-        SCOPED_TRACE(c.label);
-        const DimensionText texts = TextsOf(c.dimension);
-        EXPECT_EQ(texts.label, c.label);
-        EXPECT_EQ(texts.upper, c.upper);
-        EXPECT_EQ(texts.lower, c.lower);
+        SCOPED_TRACE(tested.label);
+        const DimensionText texts = TextsOf(tested.dimension);
+        EXPECT_EQ(texts.label, tested.label);
+        EXPECT_EQ(texts.upper, tested.upper);
+        EXPECT_EQ(texts.lower, tested.lower);
     }
 }
 
