@@ -9,9 +9,9 @@
 /// What the user asked for when starting the program; paths are UTF-8.
 struct CommandLine
 {
-    std::optional<std::string> drawing;  ///< nothing: the drawing that comes with the program
-    std::optional<std::string> play;     ///< script to play
-    std::chrono::seconds timeout{120};   ///< of a play
+    std::optional<std::string> drawing;                      ///< nothing: the drawing that comes with the program
+    std::optional<std::string> play;                         ///< script to play
+    std::chrono::seconds timeout = std::chrono::minutes{2};  ///< of a play
 };
 
 /// The program is not to start: the text says why, or is the help that was asked for.

@@ -84,12 +84,9 @@ private:
 
     bool Fits(std::string_view piece) const
     {
-        for (const std::string_view alternative : Split(piece, '|'))
-        {
-            if (IsKind(alternative) ? LooksLikeValue(alternative, m_words.front()) : IsWord(alternative))
-                return true;
-        }
-        return false;
+        return std::ranges::any_of(Split(piece, '|'), [this](std::string_view alternative) {
+            return IsKind(alternative) ? LooksLikeValue(alternative, m_words.front()) : IsWord(alternative);
+        });
     }
 
     bool IsWord(std::string_view word) const { return !m_words.front().quoted && m_words.front().source == word; }
