@@ -17,7 +17,8 @@ int main()
 
     constexpr int kRounds = 200;
     constexpr float kSizes[] = {0.5F, 3, 20, 50, 300, 500, 1000, 3150};
-    long lookUps = 0, known = 0;
+    long lookUps = 0;
+    long known = 0;
     const auto start = std::chrono::steady_clock::now();
     for (int round = 0; round < kRounds; ++round)
     {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdlib>
@@ -63,15 +64,7 @@ struct IsPaintable
                IsNear({rect.right, rect.bottom});
     }
 
-    static bool AreNear(const std::vector<PixelPoint>& points)
-    {
-        for (const PixelPoint point : points)
-        {
-            if (!IsNear(point))
-                return false;
-        }
-        return true;
-    }
+    static bool AreNear(const std::vector<PixelPoint>& points) { return std::ranges::all_of(points, IsNear); }
 };
 
 // What remains when only labels and axes can be drawn, labels at the given columns.

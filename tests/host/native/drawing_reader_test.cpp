@@ -135,10 +135,10 @@ TEST(ParseDrawing, RefusalNamesFilePlaceAndReason)
         {R"({ "dimensions": [], "outlines": [ [[0,0],[0]] ] })", "plate.json: outlines[0][1]: must be a point [x, y]"},
         {R"({ "dimensions": [ { "id": "A", "id": "B" } ] })", "plate.json: an object has two members \"id\""},
     };
-    for (const Case& c : cases)
+    for (const Case& refused : cases)
     {
-        SCOPED_TRACE(c.json);
-        EXPECT_EQ(Refusal(c.json), c.message);
+        SCOPED_TRACE(refused.json);
+        EXPECT_EQ(Refusal(refused.json), refused.message);
     }
 }
 

@@ -21,9 +21,9 @@ void Require(bool holds, const char* property, const DeviationPair& typed)
     std::abort();
 }
 
-bool Same(const DeviationPair& a, const DeviationPair& b)
+bool Same(const DeviationPair& left, const DeviationPair& right)
 {
-    return a.upper == b.upper && a.lower == b.lower;
+    return left.upper == right.upper && left.lower == right.lower;
 }
 
 bool IsNormalForm(std::string_view text)

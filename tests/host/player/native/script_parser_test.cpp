@@ -39,7 +39,7 @@ TEST(ScriptParser, AScriptIsItsStepsWithTheirLines)
 {
     const Script script =
         ParseScript("\xEF\xBB\xBF# a play\r\n\r\nopen \"Shaft\"   # label\r\n  print\n", "dir/play.txt");
-    ASSERT_EQ(script.steps.size(), 2u);
+    ASSERT_EQ(script.steps.size(), 2U);
     EXPECT_EQ(script.file, "dir/play.txt");
     EXPECT_EQ(script.steps[0].line, 3);
     EXPECT_EQ(script.steps[0].name, "open");
@@ -209,7 +209,7 @@ TEST(ScriptParser, WhatMayBeLeftOutComesInAnyOrder)
 TEST(ScriptParser, APixelHasColourToleranceAndPlace)
 {
     const Step step = ParseLine("expect-pixel calc 1000 w-3 h/2 F0dC28 8 at 1 2");
-    EXPECT_EQ(step.colour, 0xF0DC28u);
+    EXPECT_EQ(step.colour, 0xF0DC28U);
     EXPECT_EQ(step.number, 8);
     EXPECT_EQ(step.cell->column, 2);
     EXPECT_EQ(ParseLine("expect-pixel calc 1000 1 1 000000 at 1 2").number, std::nullopt);
@@ -237,7 +237,7 @@ TEST(ScriptParser, ACallHasItsObjectAndItsFields)
     const Step step = ParseLine("on 107 SetDlgParams A2 upper=\"0.2\" kind=3 caption=@52705");
     EXPECT_EQ(step.number, 107);
     EXPECT_EQ(step.words, (std::vector<std::string>{"SetDlgParams", "A2"}));
-    ASSERT_EQ(step.fields.size(), 3u);
+    ASSERT_EQ(step.fields.size(), 3U);
     EXPECT_EQ(step.fields[0].field, RecordField::kUpperDev);
     EXPECT_EQ(step.fields[0].value.text, "0.2");
     EXPECT_EQ(step.fields[1].field, RecordField::kDimKind);
@@ -378,7 +378,7 @@ TEST(ScriptParser, AFileIsRead)
     std::ofstream(file, std::ios::binary) << "print\r\nmark\r\n";
     const Script script = ParseScriptFile(file);
     std::filesystem::remove(file);
-    ASSERT_EQ(script.steps.size(), 2u);
+    ASSERT_EQ(script.steps.size(), 2U);
     EXPECT_EQ(script.steps[1].name, "mark");
     EXPECT_EQ(script.file, file);
 }

@@ -35,7 +35,7 @@ TEST(SplitLine, ANumberSignBeginsAComment)
 TEST(SplitLine, AQuotedTextKeepsBlanksAndResolvesEscapes)
 {
     const std::vector<ScriptWord> words = SplitLine(R"(open "two words" "say \"x\"" "a\\b" "line\nbreak" "")");
-    ASSERT_EQ(words.size(), 6u);
+    ASSERT_EQ(words.size(), 6U);
     EXPECT_FALSE(words[0].quoted);
     EXPECT_TRUE(words[1].quoted);
     EXPECT_EQ(words[1].text, "two words");
@@ -50,7 +50,7 @@ TEST(SplitLine, AQuotedTextKeepsBlanksAndResolvesEscapes)
 TEST(SplitLine, ANameBeforeAnEqualsSignIsKeptApart)
 {
     const std::vector<ScriptWord> words = SplitLine(R"(upper="0.2=x" law=2 caption=@52705 "a=b")");
-    ASSERT_EQ(words.size(), 4u);
+    ASSERT_EQ(words.size(), 4U);
     EXPECT_EQ(words[0].name, "upper");
     EXPECT_EQ(words[0].text, "0.2=x");
     EXPECT_TRUE(words[0].quoted);

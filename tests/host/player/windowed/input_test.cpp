@@ -252,7 +252,7 @@ TEST_F(PlayedInput, AClickFallsOnTheMiddleOfItsCell)
 {
     Listener grid(dialog.Control(1000));
     ExpectHolds(host, "click link 1000 1 1\n");
-    ASSERT_EQ(grid.heard.size(), 2u);
+    ASSERT_EQ(grid.heard.size(), 2U);
     EXPECT_EQ(grid.heard[0].substr(0, 9), "down 150,");
     EXPECT_EQ(ListView_GetNextItem(dialog.Control(1000), -1, LVNI_FOCUSED), 1);
     ExpectFails(host, "click link 1000 3 0\n", 1, "expected row 3, found 3 rows");
@@ -264,7 +264,7 @@ TEST_F(PlayedInput, ADoubleClickIsTwoClicks)
 {
     Listener grid(dialog.Control(1000));
     ExpectHolds(host, "click link 1000 0 1 double\n");
-    ASSERT_EQ(grid.heard.size(), 4u);
+    ASSERT_EQ(grid.heard.size(), 4U);
     EXPECT_EQ(grid.heard[0].substr(0, 4), "down");
     EXPECT_EQ(grid.heard[1].substr(0, 2), "up");
     EXPECT_EQ(grid.heard[2].substr(0, 6), "double");
@@ -275,7 +275,7 @@ TEST_F(PlayedInput, ARightClickIsPressAndRelease)
 {
     Listener grid(dialog.Control(1000));
     ExpectHolds(host, "click link 1000 0 1 right\n");
-    ASSERT_EQ(grid.heard.size(), 2u);
+    ASSERT_EQ(grid.heard.size(), 2U);
     EXPECT_EQ(grid.heard[0].substr(0, 15), "right down 150,");
     EXPECT_EQ(grid.heard[1].substr(0, 13), "right up 150,");
 }

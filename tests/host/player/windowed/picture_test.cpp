@@ -306,8 +306,8 @@ TEST_F(PlayedPicture, TheWholePictureHasTheChildrenInTheirPlaces)
     GetWindowRect(dialog.Control(1024), &frame);
     const int x = frame.left - window.left;
     const int y = frame.top - window.top;
-    EXPECT_EQ(whole.At(x + 10, y), 0xFF0000u);
-    EXPECT_EQ(whole.At(x, y + 10), 0x0000FFu);
+    EXPECT_EQ(whole.At(x + 10, y), 0xFF0000U);
+    EXPECT_EQ(whole.At(x, y + 10), 0x0000FFU);
 }
 
 TEST_F(PlayedPicture, PicturesLeaveNothingBehind)

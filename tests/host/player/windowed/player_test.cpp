@@ -88,8 +88,8 @@ TEST(ScriptPlayer, AWindowThatNeverComesFailsAfterTenSeconds)
     const ULONGLONG start = GetTickCount64();
     ExpectFails(host, "expect-open weight\n", 1, "expected weight open, found open: host");
     const ULONGLONG waited = GetTickCount64() - start;
-    EXPECT_GE(waited, 9900u);
-    EXPECT_LT(waited, 15000u);
+    EXPECT_GE(waited, 9900U);
+    EXPECT_LT(waited, 15000U);
 }
 
 TEST(ScriptPlayer, StepsGoOnInsideAMessageBox)

@@ -14,12 +14,12 @@ std::vector<std::vector<std::string>> Lines(std::string_view csv)
     while (std::getline(text, line))
     {
         std::vector<std::string> cells(1);
-        for (const char c : line)
+        for (const char letter : line)
         {
-            if (c == ',')
+            if (letter == ',')
                 cells.emplace_back();
             else
-                cells.back() += c;
+                cells.back() += letter;
         }
         lines.push_back(cells);
     }

@@ -25,8 +25,8 @@ constexpr std::array kSizes = {1.0F,    3.0F,    6.0F,    10.0F,   14.0F,   18.0
 std::string Small(std::string_view letters)
 {
     std::string small(letters);
-    for (char& c : small)
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    for (char& letter : small)
+        letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
     return small;
 }
 
