@@ -203,8 +203,12 @@ void CFListCtrl::HideBranch(CFListRow& row, int& last)
 {
     if (row.IsExpanded())
         HideChildren(row, last);
-    m_exactIndices = std::min(m_exactIndices, last);
-    DeleteItem(last--);  // the list tells its parent first: until then the row knows its place
+    const int index = last--;
+    // The list tells its parent, which may ask for indices and so have rows renumbered that are about to move: what is
+    // exact is set back once more behind it. Until then the row knows its place.
+    m_exactIndices = std::min(m_exactIndices, index);
+    DeleteItem(index);
+    m_exactIndices = std::min(m_exactIndices, index);
     row.m_listIndex = -1;
 }
 

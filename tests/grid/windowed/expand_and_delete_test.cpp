@@ -187,38 +187,29 @@ TEST_F(GridTree, RowEmptiedWhileExpandedIsCollapsedWithItsParent)
 }
 
 // The list control tells of each inserted and deleted row: the parent may ask for indices right then.
-TEST_F(GridTree, IndicesAreExactAtEveryMomentOfExpandingAndCollapsing)
+TEST_F(GridTree, IndicesAreExactAtEveryMomentOfExpandingCollapsingAndDeleting)
 {
-    class Observer : public GridWindow
-    {
-    public:
-        int observed = 0;
-        bool exact = true;
-
-    protected:
-        BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override
+    int observed = 0;
+    window.onListTold = [&](UINT code) {
+        if (code == LVN_INSERTITEM || code == LVN_DELETEITEM)
         {
-            const UINT code = reinterpret_cast<NMHDR*>(lParam)->code;
-            if (code == LVN_INSERTITEM || code == LVN_DELETEITEM)
-            {
-                ++observed;
-                exact = exact && IndicesAreExact();
-            }
-            return GridWindow::OnNotify(wParam, lParam, result);
+            ++observed;
+            EXPECT_TRUE(window.IndicesAreExact()) << observed;
         }
     };
-    Observer observer;
-    observer.grid.InsertFColumn(0, L"", LVCFMT_LEFT, 100, true);
-    const RowKey top = observer.AddTop(L"T");
-    observer.AddTop(L"U");
-    for (int child = 0; child < 5; ++child)
-        observer.AddChild(top, L"A");
-    observer.observed = 0;
-    observer.grid.ExpandRow(top);
-    EXPECT_EQ(observer.observed, 5);
-    observer.grid.CollapseRow(top);
-    EXPECT_EQ(observer.observed, 10);
-    EXPECT_TRUE(observer.exact);
+    window.AddChild(t, L"C");
+    grid.ExpandRow(t);
+    EXPECT_EQ(observed, 3);
+    EXPECT_TRUE(window.IndicesAreExact());
+    grid.CollapseRow(t);
+    EXPECT_EQ(observed, 6);
+    EXPECT_TRUE(window.IndicesAreExact());
+    grid.ExpandRow(t);
+    grid.ExpandRow(a);
+    EXPECT_EQ(observed, 11);
+    grid.DeleteRow(t);
+    EXPECT_EQ(observed, 17);
+    EXPECT_TRUE(window.IndicesAreExact());
 }
 
 TEST_F(GridTree, ParentMayDeleteTheRowItIsToldOf)

@@ -65,6 +65,7 @@ GridWindow::GridWindow()
 GridWindow::~GridWindow()
 {
     onTold = nullptr;
+    onListTold = nullptr;
     DestroyWindow();
     PumpUntilIdle();
 }
@@ -138,7 +139,11 @@ BOOL GridWindow::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
     constexpr UINT kFirstCode = kGridRowExpanded;
     constexpr UINT kLastCode = kGridEndList;
     if (header.hwndFrom != grid.GetSafeHwnd() || header.code < kFirstCode || header.code > kLastCode)
+    {
+        if (onListTold)
+            onListTold(header.code);
         return CWnd::OnNotify(wParam, lParam, result);
+    }
 
     EXPECT_EQ(wParam, kGridId);
     EXPECT_EQ(header.idFrom, kGridId);

@@ -33,6 +33,8 @@ public:
     std::int32_t selectedEntry = -1;
     /// Called with every record, after it was written down.
     std::function<void(const NMFLISTCTRL&)> onTold;
+    /// Called with the code of every notification that the list view itself sends.
+    std::function<void(UINT code)> onListTold;
 
     /// Adds a row of that name with texts name+column number in the other columns, and remembers the name.
     RowKey AddTop(const wchar_t* name, int image = -1);
