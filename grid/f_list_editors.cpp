@@ -99,6 +99,7 @@ bool CFListCtrl::OpenList(RowKey key, int column)
 }
 
 bool CFListCtrl::OpenButton(RowKey key, int column)
+    list->SetDropDownHeight(kDropDownCells * cell.Height());
 {
     MakeCellVisible(key, column, false);
     const CFListRow& row = *FindRow(key);

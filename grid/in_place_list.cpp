@@ -1,5 +1,7 @@
 #include "grid/in_place_list.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr UINT kTextFormat = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_EXTERNALLEADING;
@@ -55,8 +57,18 @@ void CInPlaceList::SetClosedHeight(int height)
         SetItemHeight(-1, static_cast<UINT>(height - frame));
 }
 
+void CInPlaceList::SetDropDownHeight(int height)
+{
+    const int borders = 2 * ::GetSystemMetrics(SM_CYBORDER);
+    const int entry = GetItemHeight(0);
+    if (entry > 0)
+        SendMessage(CB_SETMINVISIBLE, static_cast<WPARAM>(std::max(1, (height - borders) / entry)));
+}
+
 void CInPlaceList::OnPaint()
 {
+    // The dotted line inverts what is there: all of it is drawn anew before, whatever part has to be.
+    Invalidate(FALSE);
     Default();
     CRect client;
     GetClientRect(&client);

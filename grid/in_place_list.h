@@ -27,6 +27,9 @@ public:
     void SetLook(const InPlaceListLook& look) { m_look = look; }
     /// Makes the closed list exactly so high.
     void SetClosedHeight(int height);
+    /// Makes the drop-down part at most so high, as many whole entries as fit. The common controls of version 6 show 30
+    /// entries whatever height the window was made with; the older ones go by that alone.
+    void SetDropDownHeight(int height);
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);

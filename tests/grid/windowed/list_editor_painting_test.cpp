@@ -68,6 +68,13 @@ protected:
         return span;
     }
 
+    void ExpectDottedEdge() const
+    {
+        for (const int line : {0, kHeight - 1})
+            for (int x = 1; x < kTextWidth; ++x)
+                EXPECT_NE(PixelAt(x, line), PixelAt(x - 1, line)) << x << ", " << line;
+    }
+
     RowKey row = window.AddTop(L"A");
 };
 }  // namespace
@@ -77,9 +84,16 @@ TEST_F(ListEditorPainting, FieldIsFilledUnderADottedEdge)
     Open(2);
     EXPECT_EQ(PixelAt(kTextWidth - 1, 1), kBack);
     EXPECT_EQ(PixelAt(kTextWidth - 1, kHeight - 2), kBack);
-    for (const int line : {0, kHeight - 1})
-        for (int x = 1; x < kTextWidth; ++x)
-            EXPECT_NE(PixelAt(x, line), PixelAt(x - 1, line)) << x << ", " << line;
+    ExpectDottedEdge();
+}
+
+TEST_F(ListEditorPainting, EdgeStaysDottedWhenAPartIsRepainted)
+{
+    Open(2);
+    const CRect rightHalf(kColumnWidth / 2, 0, kColumnWidth, kHeight);
+    ::InvalidateRect(Editor(302), &rightHalf, FALSE);
+    ::UpdateWindow(Editor(302));
+    ExpectDottedEdge();
 }
 
 TEST_F(ListEditorPainting, ArrowFillsASquareAtTheRight)

@@ -100,6 +100,55 @@ TEST_F(ListEditor, DropDownPartIsTenCellsHighLessAPartOfAnEntry)
     EXPECT_LE(part.Height(), 10 * cell.Height());
 }
 
+namespace
+{
+/// Windows that are made in its life have the common controls of version 6, as in a program whose manifest asks for
+/// them.
+class VersionSixControls
+{
+public:
+    VersionSixControls()
+    {
+        constexpr WORD kManifest = 903;
+        ACTCTXW description{};
+        description.cbSize = sizeof(description);
+        description.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
+        description.hModule = ::GetModuleHandleW(nullptr);
+        description.lpResourceName = MAKEINTRESOURCEW(kManifest);
+        m_context = ::CreateActCtxW(&description);
+        EXPECT_NE(m_context, INVALID_HANDLE_VALUE);
+        EXPECT_TRUE(::ActivateActCtx(m_context, &m_cookie));
+    }
+    ~VersionSixControls()
+    {
+        ::DeactivateActCtx(0, m_cookie);
+        ::ReleaseActCtx(m_context);
+    }
+    VersionSixControls(const VersionSixControls&) = delete;
+    VersionSixControls& operator=(const VersionSixControls&) = delete;
+
+private:
+    HANDLE m_context;
+    ULONG_PTR m_cookie = 0;
+};
+}  // namespace
+
+TEST_F(ListEditor, DropDownPartIsTenCellsHighUnderTheControlsOfVersionSix)
+{
+    window.entries.assign(40, {L"entry", 1});
+    const VersionSixControls controls;
+    const HWND list = OpenIt();
+    ::SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof(info);
+    ASSERT_TRUE(::GetComboBoxInfo(list, &info));
+    CRect part;
+    ::GetWindowRect(info.hwndList, &part);
+    const int cellHeight = grid.GetCellRect(a, 2).Height();
+    EXPECT_GT(part.Height(), 9 * cellHeight);
+    EXPECT_LE(part.Height(), 10 * cellHeight);
+}
+
 // The combo box hands the scroll bar it was created with on to its drop-down part.
 TEST_F(ListEditor, HasItsStyleWithoutClientEdge)
 {
