@@ -12,6 +12,7 @@ BEGIN_MESSAGE_MAP(CFListCtrl, CListCtrlWithCustomDraw)
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
     ON_WM_MOUSEWHEEL()
+    ON_MESSAGE(WM_MOUSEHWHEEL, &CFListCtrl::OnHorizontalWheel)
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     // keyboard
@@ -92,6 +93,12 @@ BOOL CFListCtrl::OnMouseWheel(UINT flags, short distance, CPoint screenPoint)
 }
 
 // Without a focus row only the keyboard focus shows, see PaintCell.
+LRESULT CFListCtrl::OnHorizontalWheel(WPARAM, LPARAM)
+{
+    CloseEditor();
+    return Default();
+}
+
 void CFListCtrl::OnSetFocus(CWnd* former)
 {
     CListCtrlWithCustomDraw::OnSetFocus(former);

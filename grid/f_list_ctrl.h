@@ -133,6 +133,7 @@ protected:
     afx_msg void OnKillFocus(CWnd* next);
     // keyboard
     afx_msg LRESULT OnGetDlgCode(WPARAM key, LPARAM message);
+    afx_msg LRESULT OnHorizontalWheel(WPARAM keysAndDistance, LPARAM screenPoint);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     // mouse

@@ -242,12 +242,13 @@ TEST_F(EditEditor, FocusTakenByAnotherWindowDiscards)
 TEST_F(EditEditor, ScrollingClosesIt)
 {
     grid.InsertFColumn(3, L"wide", LVCFMT_LEFT, 900, false);
-    for (const UINT message : {WM_HSCROLL, WM_VSCROLL, WM_MOUSEWHEEL})
+    for (const UINT message : {WM_HSCROLL, WM_VSCROLL, WM_MOUSEWHEEL, WM_MOUSEHWHEEL})
     {
         SCOPED_TRACE(message);
         grid.SetFocusCell(a, 1, false);
         ASSERT_TRUE(grid.OpenEditor());
-        grid.SendMessage(message, message == WM_MOUSEWHEEL ? MAKEWPARAM(0, 120) : SB_LINERIGHT, 0);
+        const bool wheel = message == WM_MOUSEWHEEL || message == WM_MOUSEHWHEEL;
+        grid.SendMessage(message, wheel ? MAKEWPARAM(0, WHEEL_DELTA) : SB_LINERIGHT, 0);
         EXPECT_FALSE(grid.HasEditor());
         EXPECT_EQ(::GetFocus(), grid.GetSafeHwnd());
     }
