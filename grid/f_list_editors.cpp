@@ -106,7 +106,7 @@ bool CFListCtrl::OpenButton(RowKey key, int column)
     CRect place = EditorRect(row, column);
     place.left = place.right - place.Height();
     auto button = std::make_unique<CInPlaceButton>(key, column, L"...");
-    if (!button->Create(L"...", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, place, this, kButtonId))
+    if (!button->Create(L"", WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON, place, this, kButtonId))
         return false;
     row.Item(column).buttonShown = 1;
     RedrawRow(row);

@@ -33,6 +33,7 @@ BEGIN_MESSAGE_MAP(CInPlaceButton, CButton)
     ON_WM_KEYDOWN()
     ON_WM_CHAR()
     ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
     ON_WM_LBUTTONUP()
 END_MESSAGE_MAP()
 
@@ -90,6 +91,12 @@ void CInPlaceButton::OnLButtonDown(UINT flags, CPoint point)
 {
     m_pressed = true;
     CButton::OnLButtonDown(flags, point);
+}
+
+// The second of two quick presses.
+void CInPlaceButton::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    OnLButtonDown(flags, point);
 }
 
 void CInPlaceButton::OnLButtonUp(UINT flags, CPoint point)

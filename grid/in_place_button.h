@@ -19,6 +19,7 @@ protected:
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     DECLARE_MESSAGE_MAP()
 

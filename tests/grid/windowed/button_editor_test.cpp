@@ -20,7 +20,7 @@ protected:
     HWND Button() const { return Editor(303); }
     void Mouse(UINT message, int x, int y)
     {
-        ::PostMessageW(Button(), message, message == WM_LBUTTONDOWN ? MK_LBUTTON : 0, MAKELPARAM(x, y));
+        ::PostMessageW(Button(), message, message != WM_LBUTTONUP ? MK_LBUTTON : 0, MAKELPARAM(x, y));
         PumpUntilIdle();
     }
 
@@ -81,6 +81,17 @@ TEST_F(ButtonEditor, ReleasedOverItIsAPress)
     Mouse(WM_LBUTTONUP, 5, 5);
     EXPECT_EQ(window.TakeTold(), (Told{"1122 A 2 \"A2\""}));
     EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+// The second of two quick presses arrives as a double click.
+TEST_F(ButtonEditor, ReleasedOverItAfterADoubleClickIsAPress)
+{
+    Mouse(WM_LBUTTONDOWN, 5, 5);
+    Mouse(WM_LBUTTONUP, 500, 5);
+    Mouse(WM_LBUTTONDBLCLK, 5, 5);
+    EXPECT_TRUE(window.TakeTold().empty());
+    Mouse(WM_LBUTTONUP, 5, 5);
+    EXPECT_EQ(window.TakeTold(), (Told{"1122 A 2 \"A2\""}));
 }
 
 TEST_F(ButtonEditor, ReleasedElsewhereIsNothing)
