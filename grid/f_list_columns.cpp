@@ -11,6 +11,7 @@ int CFListCtrl::InsertFColumn(int index, LPCTSTR heading, int format, int width,
     column->centred = (format & LVCFMT_JUSTIFYMASK) == LVCFMT_CENTER ? 1 : 0;
     m_columns.InsertAt(index, column.get());
     column.release();
+    m_insertedAt.push_back(index);
     if (tree && m_treeColumn >= 0)
         Column(m_treeColumn < index ? m_treeColumn : m_treeColumn + 1).tree = 0;
     if (tree)

@@ -44,6 +44,7 @@ void CFListCtrl::DeleteColumns()
     for (int column = 0; column < ColumnCount(); ++column)
         delete m_columns[column];
     m_columns.RemoveAll();
+    m_insertedAt.clear();
     m_treeColumn = -1;
 }
 
@@ -92,13 +93,13 @@ BOOL CFListCtrl::OnMouseWheel(UINT flags, short distance, CPoint screenPoint)
     return CListCtrlWithCustomDraw::OnMouseWheel(flags, distance, screenPoint);
 }
 
-// Without a focus row only the keyboard focus shows, see PaintCell.
 LRESULT CFListCtrl::OnHorizontalWheel(WPARAM, LPARAM)
 {
     CloseEditor();
     return Default();
 }
 
+// Without a focus row only the keyboard focus shows, see PaintCell.
 void CFListCtrl::OnSetFocus(CWnd* former)
 {
     CListCtrlWithCustomDraw::OnSetFocus(former);

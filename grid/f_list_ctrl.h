@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 #include <unordered_map>
+#include <vector>
 
 /// Kind of a cell: one of the first four, and kCellCheckBox added for a check box in front of the text.
 constexpr std::int32_t kCellText = 0;  // not edited
@@ -25,6 +26,8 @@ constexpr std::int32_t kCellCheckBox = 8;
 /// Everything that happens is told to the parent by the records of grid_notifications.h, synchronously; the parent may
 /// change and delete rows meanwhile. Image 0 of the small image list marks an expanded row, image 1 a collapsed one.
 /// Rows are addressed by key; an unknown key is ignored. A column that does not exist raises CInvalidArgException.
+/// An open editor closes without commit when a column or a row is added, a row deleted, expanded or collapsed, a cell
+/// brought into sight, the focus moved to another cell, or the row mode set.
 class CFListCtrl : public CListCtrlWithCustomDraw
 {
 public:
@@ -52,8 +55,8 @@ public:
     /// at once, a child when its parent is expanded and shown. An unknown parent: the row is deleted, the result null.
     RowKey AddTopRow(CFListRow* row);
     RowKey AddChildRow(RowKey parent, CFListRow* row);
-    /// Deletes the row and all below it. An editor on them closes without commit; a focus row among them hands the
-    /// focus silently to the next sibling, else the previous, else the parent.
+    /// Deletes the row and all below it. A focus row among them hands the focus silently to the next sibling, else the
+    /// previous, else the parent.
     void DeleteRow(RowKey key);
     CFListRow* FindRow(RowKey key) const;  ///< null for an unknown key
     CFListRow* FirstTopRow() const;        ///< null when there is none
@@ -91,6 +94,7 @@ public:
     void SetRowMode(bool rowMode);
     bool RowMode() const { return m_rowMode; }
     void SetFocusColours(COLORREF back, COLORREF text);
+    /// Closes an open editor even when the cell is in sight already.
     /// @param partial  a partly visible row is enough, and the column doesn't matter
     void MakeCellVisible(RowKey key, int column, bool partial);
 
@@ -223,6 +227,7 @@ private:
 
     CTypedPtrArray<CPtrArray, CFListColumn*> m_columns;
     int m_treeColumn = -1;
+    std::vector<int> m_insertedAt;  // the index that each column was inserted at, in the order of the insertions
     RowList m_topRows;
     std::unordered_map<RowKey, CFListRow*> m_rowsByKey;
     mutable int m_exactIndices = 0;  // rows at list indices below this one know their index
@@ -283,8 +288,6 @@ public:
     int ChildCount() const { return static_cast<int>(m_children.GetCount()); }
     CFListRow* FirstChild() const;
     CFListRow* LastChild() const;
-    /// Walks the children: use FirstChild and NextSibling to visit all. A missing child raises CInvalidArgException.
-    CFListRow* ChildAt(int index) const;
     int Level() const { return m_level; }  ///< 0 for a top row
     bool IsExpanded() const { return m_collapsed == 0; }
     /// Whether the row is `ancestor` or stands below it.

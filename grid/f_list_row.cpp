@@ -23,11 +23,6 @@ CFListCtrl::CFListRow* CFListCtrl::CFListRow::LastChild() const
     return m_children.IsEmpty() ? nullptr : m_children.GetTail();
 }
 
-CFListCtrl::CFListRow* CFListCtrl::CFListRow::ChildAt(int index) const
-{
-    return m_children.GetAt(m_children.FindIndex(index));
-}
-
 bool CFListCtrl::CFListRow::IsWithin(const CFListRow& ancestor) const
 {
     const CFListRow* row = this;

@@ -55,7 +55,7 @@ RowKey CFListCtrl::Attach(CFListRow* row, CFListRow* parent)
 {
     // A row that was made before a column was inserted lacks a cell.
     while (row->ItemCount() < ColumnCount())
-        row->InsertItem(row->ItemCount(), L"", kCellText);
+        row->InsertItem(m_insertedAt[static_cast<std::size_t>(row->ItemCount())], L"", kCellText);
 
     RowList& siblings = parent != nullptr ? parent->m_children : m_topRows;
     row->m_parent = parent;

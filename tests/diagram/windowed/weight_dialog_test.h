@@ -63,7 +63,13 @@ protected:
 
     CFListCtrl& List() const { return *dynamic_cast<CFListCtrl*>(CWnd::FromHandlePermanent(Window(IDC_WEIGHT_LIST))); }
     CFListCtrl::CFListRow& ChainRow() const { return *List().FirstTopRow(); }
-    CFListCtrl::CFListRow& LinkRow(int link) const { return *ChainRow().ChildAt(link - 1); }
+    CFListCtrl::CFListRow& LinkRow(int link) const
+    {
+        CFListCtrl::CFListRow* row = ChainRow().FirstChild();
+        for (; link > 1; --link)
+            row = row->NextSibling();
+        return *row;
+    }
 
     /// 1 for the first link, 0 for the chain row, -1 for no row.
     int Selected() const

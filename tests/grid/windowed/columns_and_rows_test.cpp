@@ -155,13 +155,6 @@ TEST_F(GridRows, MissingCellRaisesInvalidArgument)
     EXPECT_TRUE(RaisesInvalidArgument([&] { grid.SetFocusCell(key, 3, false); }));
 }
 
-TEST_F(GridRows, MissingChildRaisesInvalidArgument)
-{
-    const RowKey key = window.AddTop(L"A");
-    window.AddChild(key, L"B");
-    EXPECT_TRUE(RaisesInvalidArgument([&] { grid.FindRow(key)->ChildAt(1); }));
-}
-
 TEST_F(GridRows, KeysAreUniqueOverAllGrids)
 {
     GridWindow other;
@@ -188,7 +181,7 @@ TEST_F(GridRows, ChildrenAreLinkedInTheirOrder)
     window.AddChild(top, L"C");
     const CFListCtrl::CFListRow& row = *grid.FindRow(top);
     ASSERT_EQ(row.ChildCount(), 3);
-    const CFListCtrl::CFListRow* const middle = row.ChildAt(1);
+    const CFListCtrl::CFListRow* const middle = row.FirstChild()->NextSibling();
     EXPECT_EQ(middle->Text(0), L"B");
     EXPECT_EQ(middle->Parent(), &row);
     EXPECT_EQ(middle->Level(), 1);
@@ -241,6 +234,43 @@ TEST_F(GridRows, RowMadeBeforeAColumnWasInsertedGetsItsCellWhenAdded)
     CFListCtrl::CFListRow* const row = grid.CreateRow(L"A", -1);
     grid.InsertFColumn(3, L"new", LVCFMT_LEFT, 50, false);
     EXPECT_EQ(grid.FindRow(grid.AddTopRow(row))->ItemCount(), 4);
+}
+
+TEST_F(GridRows, RowMadeBeforeAColumnWasInsertedHasItsNewCellWhereTheColumnCame)
+{
+    CFListCtrl::CFListRow* const row = grid.CreateRow(L"A", -1);
+    row->Item(1).text = L"A1";
+    grid.InsertFColumn(1, L"new", LVCFMT_LEFT, 50, false);
+    grid.InsertFColumn(0, L"new", LVCFMT_LEFT, 50, false);
+    grid.AddTopRow(row);
+    const wchar_t* const texts[] = {L"", L"A", L"", L"A1", L""};
+    ASSERT_EQ(row->ItemCount(), 5);
+    for (int column = 0; column < 5; ++column)
+        EXPECT_STREQ(row->Text(column), texts[column]) << column;
+}
+
+TEST_F(GridRows, CellsAreInsertedAtAnyIndexWithTextAndKind)
+{
+    CFListCtrl::CFListRow& row = *grid.FindRow(window.AddTop(L"A"));
+    const CFListCtrl::CFListItem& first = row.InsertItem(0, L"first", kCellEdit);
+    EXPECT_EQ(&first, &row.Item(0));
+    EXPECT_EQ(row.Text(0), L"first");
+    EXPECT_EQ(row.Item(0).kind, kCellEdit);
+    EXPECT_EQ(row.Item(0).image, -1);
+    row.InsertItem(4, L"last", kCellButton | kCellCheckBox);
+    EXPECT_EQ(row.Text(1), L"A");
+    EXPECT_EQ(row.Text(3), L"A2");
+    EXPECT_EQ(row.Text(4), L"last");
+    EXPECT_EQ(row.Item(4).kind, kCellButton | kCellCheckBox);
+    EXPECT_EQ(row.ItemCount(), 5);
+}
+
+TEST_F(GridRows, CellInsertedBehindAGapRaisesInvalidArgument)
+{
+    CFListCtrl::CFListRow& row = *grid.FindRow(window.AddTop(L"A"));
+    EXPECT_TRUE(RaisesInvalidArgument([&] { row.InsertItem(-1, L"", kCellText); }));
+    EXPECT_TRUE(RaisesInvalidArgument([&] { row.InsertItem(4, L"", kCellText); }));
+    EXPECT_EQ(row.ItemCount(), 3);
 }
 
 TEST_F(GridRows, ChildOfAnUnknownParentIsNotAdded)
