@@ -133,11 +133,11 @@ protected:
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg BOOL OnMouseWheel(UINT flags, short distance, CPoint screenPoint);
+    afx_msg LRESULT OnHorizontalWheel(WPARAM keysAndDistance, LPARAM screenPoint);
     afx_msg void OnSetFocus(CWnd* former);
     afx_msg void OnKillFocus(CWnd* next);
     // keyboard
     afx_msg LRESULT OnGetDlgCode(WPARAM key, LPARAM message);
-    afx_msg LRESULT OnHorizontalWheel(WPARAM keysAndDistance, LPARAM screenPoint);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     // mouse
@@ -194,6 +194,7 @@ private:
     void PaintText(CDC& dc, const CString& text, CRect area, COLORREF colour, UINT format, bool bold);
     // focus
     void TakeFocus();
+    int FocusColumnFor(RowKey key, int column) const;
     void TellFocusMoved();
     void OpenEditorAtOnce();
     // keyboard
@@ -226,8 +227,8 @@ private:
     LRESULT SendRecord(NMFLISTCTRL& record);
 
     CTypedPtrArray<CPtrArray, CFListColumn*> m_columns;
-    int m_treeColumn = -1;
     std::vector<int> m_insertedAt;  // the index that each column was inserted at, in the order of the insertions
+    int m_treeColumn = -1;
     RowList m_topRows;
     std::unordered_map<RowKey, CFListRow*> m_rowsByKey;
     mutable int m_exactIndices = 0;  // rows at list indices below this one know their index

@@ -47,7 +47,7 @@ void CFListCtrl::OpenEditorAtOnce()
         OpenEditor();
 }
 
-// The parent may have deleted the row or moved the focus while it was asked.
+// The parent may have deleted the row or moved the focus while it was asked, or told that the list scrolls.
 bool CFListCtrl::CanStillEdit(RowKey key, int column) const
 {
     const CFListRow* const row = FindRow(key);
@@ -61,6 +61,8 @@ bool CFListCtrl::OpenEdit(RowKey key, int column, std::optional<TCHAR> typed)
     if (forbidden != 0 || !CanStillEdit(key, column))
         return false;
     MakeCellVisible(key, column, false);
+    if (!CanStillEdit(key, column))
+        return false;
 
     const CFListRow& row = *FindRow(key);
     const CString text = typed ? CString(*typed) : row.Text(column);
@@ -83,6 +85,8 @@ bool CFListCtrl::OpenList(RowKey key, int column)
     if (forbidden != 0 || entries.IsEmpty() || !CanStillEdit(key, column))
         return false;
     MakeCellVisible(key, column, false);
+    if (!CanStillEdit(key, column))
+        return false;
 
     const CFListRow& row = *FindRow(key);
     auto list = std::make_unique<CInPlaceList>(key, column, entries, request.selected);
@@ -95,13 +99,16 @@ bool CFListCtrl::OpenList(RowKey key, int column)
         return false;
     list->ModifyStyleEx(WS_EX_CLIENTEDGE, 0, SWP_FRAMECHANGED);
     list->SetClosedHeight(cell.Height());
+    list->SetDropDownHeight(kDropDownCells * cell.Height());
     return BeginEditing(*list.release(), key, column);
 }
 
 bool CFListCtrl::OpenButton(RowKey key, int column)
-    list->SetDropDownHeight(kDropDownCells * cell.Height());
 {
     MakeCellVisible(key, column, false);
+    if (!CanStillEdit(key, column))
+        return false;
+
     const CFListRow& row = *FindRow(key);
     CRect place = EditorRect(row, column);
     place.left = place.right - place.Height();

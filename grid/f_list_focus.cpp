@@ -11,15 +11,15 @@ int lastToldColumn = -1;
 
 void CFListCtrl::SetFocusCell(RowKey key, int column, bool notify)
 {
-    const CFListRow* const row = FindRow(key);
-    if (key != nullptr && row == nullptr)
+    if (key != nullptr && FindRow(key) == nullptr)
         return;
-    const int target = m_rowMode || key == nullptr ? -1 : std::max(column, 0);
-    if (target >= 0)
-        row->Item(target);  // raises for a missing column
-    if (key != m_editorKey || target != m_editorColumn)
+    if (key != m_editorKey || FocusColumnFor(key, column) != m_editorColumn)
         CloseEditor();
+    // The list tells its parent that it has the keyboard again: the row may be gone, or the grid in row mode.
+    if (key != nullptr && FindRow(key) == nullptr)
+        return;
 
+    const int target = FocusColumnFor(key, column);
     const RowKey former = m_focusKey;
     m_focusKey = key;
     m_focusColumn = target;
@@ -29,6 +29,16 @@ void CFListCtrl::SetFocusCell(RowKey key, int column, bool notify)
         TellFocusMoved();
     if (m_focusKey == key && m_focusColumn == target)
         OpenEditorAtOnce();
+}
+
+// The focus column when the focus goes to that cell. Raises for a missing column.
+int CFListCtrl::FocusColumnFor(RowKey key, int column) const
+{
+    if (m_rowMode || key == nullptr)
+        return -1;
+    const int target = std::max(column, 0);
+    FindRow(key)->Item(target);
+    return target;
 }
 
 void CFListCtrl::TellFocusMoved()
@@ -79,7 +89,8 @@ void CFListCtrl::MakeCellVisible(RowKey key, int column, bool partial)
     if (row == nullptr || !IsShown(*row))
         return;
     EnsureVisible(row->ListIndex(), partial);
-    if (partial || column < 0)
+    // The list tells its parent of scrolling: the row may be gone.
+    if (partial || column < 0 || FindRow(key) == nullptr)
         return;
     const CRect cell = GetCellRect(key, column);
     CRect client;

@@ -81,6 +81,8 @@ void CFListCtrl::OnContextMenu(CWnd* wnd, CPoint screenPoint)
         return;
     }
     MakeCellVisible(m_focusKey, m_focusColumn, false);
+    if (FocusRow() == nullptr)
+        return;
     const CRect cell = GetCellRect(m_focusKey, m_rowMode ? 0 : m_focusColumn);
     AskForMenu(CPoint(cell.left, cell.bottom));
 }

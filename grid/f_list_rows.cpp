@@ -53,7 +53,7 @@ RowKey CFListCtrl::AddChildRow(RowKey parentKey, CFListRow* row)
 
 RowKey CFListCtrl::Attach(CFListRow* row, CFListRow* parent)
 {
-    // A row that was made before a column was inserted lacks a cell.
+    // A row that was made before a column was inserted lacks a cell where the column came.
     while (row->ItemCount() < ColumnCount())
         row->InsertItem(m_insertedAt[static_cast<std::size_t>(row->ItemCount())], L"", kCellText);
 
@@ -235,7 +235,9 @@ void CFListCtrl::ExpandRow(RowKey key)
         MakeRowsVisible(row->ListIndex(), row->LastChild()->ListIndex());
         SetFocusCell(m_focusKey, m_focusColumn, true);
     }
-    Notify(kGridRowExpanded, row, m_focusColumn, CellText(row, m_focusColumn));
+    // The list tells its parent of scrolling and of the keyboard: the row may be gone.
+    if (const CFListRow* const expanded = FindRow(key))
+        Notify(kGridRowExpanded, expanded, m_focusColumn, CellText(expanded, m_focusColumn));
     RedrawRow(key);
 }
 
