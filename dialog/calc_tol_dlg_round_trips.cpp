@@ -291,15 +291,15 @@ void CCalcTolDlg::SetCurrentFRowData(CDimParams& params)
     m_chainList.SetCellText(key, kColumnWeightFixed, WeightFixedText(params.weightFixed));
 }
 
+// Without a closing link nothing is written: the row would show one that no command finds.
 void CCalcTolDlg::SetCloseFRowData(CDimParams& params)
 {
-    Row* const closing = ClosingRow();
-    if (closing == nullptr)
+    CDimLink* const record = ClosingRecord();
+    if (record == nullptr)
         return;
     SetClosingTexts(params);
-    closing->Item(kColumnName).value = params.dimKind;
-    if (CDimLink* const record = RecordOf(*closing))
-        record->mean = MeanOf(params);
+    ClosingRow()->Item(kColumnName).value = params.dimKind;
+    record->mean = MeanOf(params);
 }
 
 void CCalcTolDlg::SetVariableFRowData(CVariableParams& params)

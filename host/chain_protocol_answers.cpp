@@ -48,9 +48,11 @@ void ChainProtocol::AcceptClosing()
     CopiedLink values = ToCopy(params);
     if (m_round == ChainRound::kEditing || m_round == ChainRound::kEditingClosing)
     {
-        m_dialog->SetCloseFRowData(params);
         FollowChain();
-        if (!m_copy.Closing() || !m_copy.Closing()->values)
+        if (!m_copy.Closing())
+            return;  // deleted meanwhile: there is nothing to rewrite
+        m_dialog->SetCloseFRowData(params);
+        if (!m_copy.Closing()->values)
             return;
         values.law = m_copy.Closing()->values->law;
         m_copy.SetClosing(m_copy.Closing()->object, values);

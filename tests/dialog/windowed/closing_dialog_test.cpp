@@ -212,6 +212,7 @@ TEST_P(ChildAfterAReset, FindsNothingToWriteAfterAReset)
             CVariableParams distribution;
             distribution.law = 3;
             dialog->SetCurrentFRowData(params);
+            dialog->SetCloseFRowData(params);
             dialog->SetVariableFRowData(distribution);
             dialog->SetVariableCloseFRowData(distribution);
         });

@@ -8,6 +8,23 @@ namespace
 class EndOfWindow : public CalcDialogTest
 {
 protected:
+    /// No link, no closing link, and as long as there is a window the two rows as they begin.
+    /// @param closingKind  what the closing row keeps as its kind
+    void ExpectNothingAdded(std::int32_t closingKind) const
+    {
+        EXPECT_TRUE(Objects().empty());
+        EXPECT_EQ(dialog->GetCloseObject(), nullptr);
+        if (Window() == nullptr)
+            return;
+        ASSERT_EQ(Links().Rows(), 1);
+        EXPECT_EQ(Links().Row(0).ChildCount(), 0);
+        EXPECT_EQ(Links().Texts(0), (std::vector<CString>{L"Shaft", L"", L"", L"", L"", L""}));
+        ASSERT_EQ(Closing().Rows(), 1);
+        EXPECT_EQ(Closing().Texts(0), (std::vector<CString>{L"      X", L"", L"", L"", L""}));
+        EXPECT_EQ(Closing().Row(0).Item(0).value, closingKind);
+        EXPECT_EQ(Closing().Record(0), nullptr);
+    }
+
     /// Every operation of the host, with arguments that must come back as they were.
     void ExpectCallsWithoutEffect()
     {
@@ -28,13 +45,13 @@ protected:
         dialog->AddCloseDimToList(&objects[0]);
         dialog->GetCurrentObject(&objects[0]);
         dialog->TrackEditMenu(CPoint(0, 0), 0);
+        ExpectNothingAdded(0);
         dialog->CancelDialog();
+        ExpectNothingAdded(-1);
         EXPECT_EQ(dimension.name, L"n");
         EXPECT_EQ(dimension.increasing, 7);
         EXPECT_EQ(dimension.dimKind, 8);
         EXPECT_EQ(distribution.law, 9);
-        EXPECT_TRUE(Objects().empty());
-        EXPECT_EQ(dialog->GetCloseObject(), nullptr);
     }
 };
 
@@ -50,8 +67,6 @@ TEST_F(EndOfWindow, LeavesCallsBeforeAnyChildDialogWithoutEffect)
 {
     Open();
     ExpectCallsWithoutEffect();
-    EXPECT_EQ(Closing().Record(0), nullptr);
-    EXPECT_EQ(Closing().Row(0).UserData(), nullptr);
 }
 
 TEST_F(EndOfWindow, LeavesCallsAfterwardsWithoutEffect)

@@ -343,12 +343,14 @@ TEST_F(EditingTheClosingLink, OpensEmptyAfterItWasDeleted)
     EXPECT_EQ(Closing().Record(0), nullptr);
 }
 
-// A host's error that does no harm.
-TEST_F(EditingTheClosingLink, MakesNoRecordInTheWriteBack)
+// A host's error that does no harm: the row never shows a closing link that isn't there.
+TEST_F(EditingTheClosingLink, WritesNothingBackWhenThereIsNone)
 {
     Command(ID_CLOSING_DELETE);
     CDimParams params = Dimension(L"", L"4", L"1", L"0");
     dialog->SetCloseFRowData(params);
+    EXPECT_EQ(Closing().Texts(0), (std::vector<CString>{L"      X", L"", L"", L"", L""}));
+    EXPECT_EQ(Closing().Row(0).Item(0).value, 3) << "the kind of the deleted one";
     EXPECT_EQ(Closing().Record(0), nullptr);
     EXPECT_EQ(dialog->GetCloseObject(), nullptr);
 }

@@ -74,6 +74,16 @@ TEST_F(Editing, TheClosingLinkIsToldByWhichRecordHasChanged)
     EXPECT_EQ(Lines()[2], "closing 25 0.2 -0.1 normal");
 }
 
+TEST_F(Editing, AClosingLinkDeletedMeanwhileIsNotWritten)
+{
+    BeginEdit(Dialog().closingRecord, Row("X"));
+    Dialog().closingObject = nullptr;
+    Notify(kClosingAccepted);
+
+    EXPECT_EQ(Dialog().TakeCalls(), Calls{});
+    EXPECT_EQ(Lines()[2], "closing none");
+}
+
 // A dialog that the host ended keeps its record: it must not be taken for the one that opens now.
 TEST_F(Editing, ARecordLeftFromADialogThatWasEndedDoesNotMislead)
 {
