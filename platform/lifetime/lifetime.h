@@ -17,7 +17,7 @@ private:
     std::weak_ptr<const int> m_token;
 };
 
-/// Member of an object that is watched: it ends with the object.
+/// Member of an object that is watched: it ends with the object at the latest.
 class Lifetime
 {
 public:
@@ -25,6 +25,11 @@ public:
     Lifetime(const Lifetime&) = delete;
     Lifetime& operator=(const Lifetime&) = delete;
     ~Lifetime() = default;
+
+    /// Ends what is watched before the object itself; until it begins again every watch is over.
+    void End() { m_token.reset(); }
+    /// Begins it anew: who watches what was there before sees no part of it.
+    void Begin() { m_token = std::make_shared<const int>(0); }
 
 private:
     friend class LifetimeWatch;

@@ -45,4 +45,25 @@ TEST(LifetimeWatch, WatchesBesideOthers)
     EXPECT_TRUE(outer.IsOver());
 }
 
+TEST(LifetimeWatch, SeesAnEndBeforeTheObjects)
+{
+    Lifetime lifetime;
+    const LifetimeWatch before(lifetime);
+    lifetime.End();
+    const LifetimeWatch after(lifetime);
+    EXPECT_TRUE(before.IsOver());
+    EXPECT_TRUE(after.IsOver());
+}
+
+TEST(LifetimeWatch, DoesNotTakeANewBeginningForTheFirst)
+{
+    Lifetime lifetime;
+    const LifetimeWatch first(lifetime);
+    lifetime.End();
+    lifetime.Begin();
+    const LifetimeWatch second(lifetime);
+    EXPECT_TRUE(first.IsOver());
+    EXPECT_FALSE(second.IsOver());
+}
+
 }  // namespace
