@@ -7,7 +7,7 @@
 
 IMPLEMENT_DYNCREATE(CWeightDlg, CDialog)
 
-BEGIN_MESSAGE_MAP(CWeightDlg, CDialog)
+BEGIN_MESSAGE_MAP(CWeightDlg, CChildDialog)
     // controls
     ON_WM_HSCROLL()
     ON_NOTIFY(kGridFocusMoved, IDC_WEIGHT_LIST, &CWeightDlg::OnFocusMoved)
@@ -70,13 +70,13 @@ CDimLink* RecordOf(const CFListCtrl::CFListRow& row)
 
 CWeightDlg::CWeightDlg() : CWeightDlg(nullptr, nullptr) {}
 
-CWeightDlg::CWeightDlg(CWnd* parent, const WeightChain* chain) : CDialog(IDD_WEIGHT, parent), m_chain(chain) {}
+CWeightDlg::CWeightDlg(CWnd* parent, const WeightChain* chain) : CChildDialog(IDD_WEIGHT, parent), m_chain(chain) {}
 
 CWeightDlg::~CWeightDlg() = default;
 
 BOOL CWeightDlg::OnInitDialog()
 {
-    CDialog::OnInitDialog();
+    CChildDialog::OnInitDialog();
     const CModuleSkin skin(kModuleCalcTol);
     m_picture.SubclassDlgItem(IDC_WEIGHT_PICTURE, this);
     m_slider.SubclassDlgItem(IDC_WEIGHT_SLIDER, this);
@@ -97,7 +97,7 @@ BOOL CWeightDlg::OnInitDialog()
 void CWeightDlg::PostNcDestroy()
 {
     m_images.DeleteImageList();
-    CDialog::PostNcDestroy();
+    CChildDialog::PostNcDestroy();
 }
 
 void CWeightDlg::PrepareList()
@@ -204,7 +204,7 @@ void CWeightDlg::EnableSlider(bool enable)
 
 void CWeightDlg::OnHScroll(UINT code, UINT position, CScrollBar* bar)
 {
-    CDialog::OnHScroll(code, position, bar);
+    CChildDialog::OnHScroll(code, position, bar);
     if (bar != nullptr && bar->m_hWnd == m_slider.m_hWnd)
         OnSliderMoved();
 }

@@ -6,12 +6,13 @@
 #include "drawing/picture_frame.h"
 #include "grid/f_list_ctrl.h"
 #include "grid/grid_parent.h"
+#include "interface/child_dialog.h"
 
 /// The dialog in which the user gives each link of the chain a weight from 1 to 10 with a slider.
 ///
 /// Each move of the slider is written to the link's record at once; either way of closing keeps it. A link whose weight
 /// is fixed shows its weight, but can't be changed.
-class CWeightDlg : public CDialog, public GridSelectionParent
+class CWeightDlg : public CChildDialog, public GridSelectionParent
 {
     DECLARE_DYNCREATE(CWeightDlg)
 

@@ -11,7 +11,7 @@
 #include "platform/moduleskin/module_skin.h"
 #include "platform/moduleskin/resource.h"
 
-BEGIN_MESSAGE_MAP(CVariableDlg, CDialog)
+BEGIN_MESSAGE_MAP(CVariableDlg, CChildDialog)
     // window
     ON_WM_PAINT()
     // controls
@@ -48,13 +48,13 @@ std::string ResourceText(UINT id)
 
 }  // namespace
 
-CVariableDlg::CVariableDlg(CWnd* parent) : CDialog(IDD_VARIABLE, parent), m_parent(parent) {}
+CVariableDlg::CVariableDlg(CWnd* parent) : CChildDialog(IDD_VARIABLE, parent), m_parent(parent) {}
 
 CVariableDlg::~CVariableDlg() = default;
 
 BOOL CVariableDlg::OnInitDialog()
 {
-    CDialog::OnInitDialog();
+    CChildDialog::OnInitDialog();
     const CModuleSkin skin(kModuleCalcTol);
     m_lawBox = std::make_unique<CComboBox>();
     m_lawBox->SubclassDlgItem(IDC_VARIABLE_LAW, this);

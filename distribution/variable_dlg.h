@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include "drawing/picture_frame.h"
+#include "interface/child_dialog.h"
 #include "interface/notifications.h"
 #include "interface/variable_params.h"
 #include "platform/lifetime/lifetime.h"
@@ -16,7 +17,7 @@
 /// handles the acceptance. Afterwards the record is empty.
 ///
 /// The host may end, destroy or delete the dialog inside a message. Ended that way, it keeps the result it was given.
-class CVariableDlg : public CDialog
+class CVariableDlg : public CChildDialog
 {
 public:
     explicit CVariableDlg(CWnd* parent);

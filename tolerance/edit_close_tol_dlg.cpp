@@ -4,7 +4,7 @@
 #include "platform/moduleskin/resource.h"
 #include "tolerance/focus_keeper.h"
 
-BEGIN_MESSAGE_MAP(CEditCloseTolDlg, CDialog)
+BEGIN_MESSAGE_MAP(CEditCloseTolDlg, CChildDialog)
     ON_CBN_EDITCHANGE(IDC_CLOSING_FIELD, &CEditCloseTolDlg::OnFieldEdited)
     ON_CBN_SELCHANGE(IDC_CLOSING_FIELD, &CEditCloseTolDlg::OnFieldSelected)
     ON_BN_CLICKED(IDC_CLOSING_FILTER, &CEditCloseTolDlg::OnFilterClicked)
@@ -27,7 +27,8 @@ constexpr ToleranceControls kControls{.nominal = IDC_CLOSING_NOMINAL,
 }  // namespace
 
 CEditCloseTolDlg::CEditCloseTolDlg(CWnd* parent)
-    : CDialog(IDD_EDIT_CLOSE_TOL, parent), m_parent(parent), m_entry(*this, m_fieldBox, m_filter, m_params, kControls)
+    : CChildDialog(IDD_EDIT_CLOSE_TOL, parent), m_parent(parent),
+      m_entry(*this, m_fieldBox, m_filter, m_params, kControls)
 {
 }
 
@@ -35,14 +36,14 @@ CEditCloseTolDlg::~CEditCloseTolDlg() = default;
 
 void CEditCloseTolDlg::DoDataExchange(CDataExchange* exchange)
 {
-    CDialog::DoDataExchange(exchange);
+    CChildDialog::DoDataExchange(exchange);
     DDX_Control(exchange, IDC_CLOSING_FIELD, m_fieldBox);
     DDX_Control(exchange, IDC_CLOSING_FILTER, m_filter);
 }
 
 BOOL CEditCloseTolDlg::OnInitDialog()
 {
-    CDialog::OnInitDialog();
+    CChildDialog::OnInitDialog();
     m_entry.Open();
     m_entry.EnableInputs(false);
     SetDlgParams(m_params.name, m_params.nominal, m_params.caption, m_params.weightFixed, m_params.tolField,

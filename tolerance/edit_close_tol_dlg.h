@@ -2,6 +2,7 @@
 
 #include <afxwin.h>
 
+#include "interface/child_dialog.h"
 #include "interface/dim_params.h"
 #include "tolerance/tol_box.h"
 #include "tolerance/tolerance_entry.h"
@@ -10,7 +11,7 @@
 ///
 /// It works like the link tolerance dialog, without label, direction, weight and Apply, and reports kClosingAccepted
 /// and kChildCancelled.
-class CEditCloseTolDlg : public CDialog
+class CEditCloseTolDlg : public CChildDialog
 {
 public:
     explicit CEditCloseTolDlg(CWnd* parent);

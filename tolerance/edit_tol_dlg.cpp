@@ -4,7 +4,7 @@
 #include "platform/moduleskin/resource.h"
 #include "tolerance/focus_keeper.h"
 
-BEGIN_MESSAGE_MAP(CEditTolDlg, CDialog)
+BEGIN_MESSAGE_MAP(CEditTolDlg, CChildDialog)
     ON_CBN_EDITCHANGE(IDC_LINK_FIELD, &CEditTolDlg::OnFieldEdited)
     ON_CBN_SELCHANGE(IDC_LINK_FIELD, &CEditTolDlg::OnFieldSelected)
     ON_BN_CLICKED(IDC_LINK_FILTER, &CEditTolDlg::OnFilterClicked)
@@ -32,7 +32,7 @@ constexpr int kDecreasing = 1;
 }  // namespace
 
 CEditTolDlg::CEditTolDlg(CWnd* parent)
-    : CDialog(IDD_EDIT_TOL, parent), m_parent(parent), m_entry(*this, m_fieldBox, m_filter, m_params, kControls)
+    : CChildDialog(IDD_EDIT_TOL, parent), m_parent(parent), m_entry(*this, m_fieldBox, m_filter, m_params, kControls)
 {
 }
 
@@ -40,14 +40,14 @@ CEditTolDlg::~CEditTolDlg() = default;
 
 void CEditTolDlg::DoDataExchange(CDataExchange* exchange)
 {
-    CDialog::DoDataExchange(exchange);
+    CChildDialog::DoDataExchange(exchange);
     DDX_Control(exchange, IDC_LINK_FIELD, m_fieldBox);
     DDX_Control(exchange, IDC_LINK_FILTER, m_filter);
 }
 
 BOOL CEditTolDlg::OnInitDialog()
 {
-    CDialog::OnInitDialog();
+    CChildDialog::OnInitDialog();
     const CModuleSkin skin(kModuleCalcTol);
     m_direction = std::make_unique<CComboBox>();
     m_direction->SubclassDlgItem(IDC_LINK_DIRECTION, this);

@@ -4,6 +4,7 @@
 
 #include <afxwin.h>
 
+#include "interface/child_dialog.h"
 #include "interface/dim_params.h"
 #include "tolerance/tol_box.h"
 #include "tolerance/tolerance_entry.h"
@@ -16,7 +17,7 @@
 /// kChildCancelled; the host reads the record while it handles the message. Afterwards the record is empty again.
 ///
 /// The host may end, destroy or delete the dialog inside a message. Ended that way, it keeps the result it was given.
-class CEditTolDlg : public CDialog
+class CEditTolDlg : public CChildDialog
 {
 public:
     explicit CEditTolDlg(CWnd* parent);

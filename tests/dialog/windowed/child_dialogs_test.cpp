@@ -119,7 +119,43 @@ TEST_P(ChildDialog, KeepsTheResultOfEndModalInsideItsOwnNotification)
     EXPECT_TRUE(::IsWindowEnabled(Window()));
 }
 
+// A host that runs a loop of its own in the same handler leaves the child's window where the user can click it.
+TEST_P(ChildDialog, HearsNothingMoreOnceTheHostHasEndedIt)
+{
+    ::SetFocus(Links().Window());
+    for (const int button : {GetParam().ok, GetParam().cancel})
+    {
+        std::vector<WPARAM> atTheEnd;
+        EXPECT_EQ(RepaintsOf([&] {
+                      Command(GetParam().command, {[&] {
+                                  dialog->EndModal();
+                                  atTheEnd = Codes();
+                                  ClickChild(button);
+                                  ::SendMessageW(Child(), WM_CLOSE, 0, 0);
+                              }});
+                  }),
+                  0);
+        EXPECT_EQ(Codes(), atTheEnd);
+        EXPECT_NE(::GetFocus(), host.m_hWnd);
+        EXPECT_EQ(Child(), nullptr);
+    }
+}
+
 using ChildDialogs = CalcDialogTest;
+
+TEST_F(ChildDialogs, ApplyNothingMoreOnceTheHostHasEndedThem)
+{
+    OpenWith(kAnalytic);
+    CDimParams params;
+    Command(ID_LINK_ADD, {[&] {
+                Load(Dimension(L"A1", L"10", L"0.1", L"0"));
+                dialog->EndModal();
+                ClickChild(IDC_LINK_APPLY);
+                dialog->GetDimDlgParams(params);
+            }});
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{32}));
+    EXPECT_EQ(params.nominal, L"10") << "not emptied either";
+}
 
 TEST_F(ChildDialogs, EndModalDoesNothingWithoutOne)
 {
