@@ -42,7 +42,10 @@ BEGIN_MESSAGE_MAP(CCalcTolDlg, CCalcTolDlgBase)
     ON_CONTROL(kGridDoubleClick, IDC_CLOSING_LIST, &CCalcTolDlg::OnDblclkTolBase)
 END_MESSAGE_MAP()
 
-CCalcTolDlg::CCalcTolDlg(CWnd* parent) : CCalcTolDlgBase(IDD_CALC_TOL, parent) {}
+CCalcTolDlg::CCalcTolDlg(CWnd* parent) : CCalcTolDlgBase(IDD_CALC_TOL, parent)
+{
+    m_windowLife.End();  // there is none yet
+}
 
 // The window goes while all members are there. The child dialogs stay: the host may hold on to what it read from them,
 // see the class.

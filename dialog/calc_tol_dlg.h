@@ -33,7 +33,9 @@ struct ChainDiagramInput;
 /// The child dialogs outlive their windows, because the host may read their records late: each is deleted when the next
 /// one of its kind takes its place, and the last ones never are.
 ///
-/// The host may do anything inside a notification and while a child dialog runs, also delete this object.
+/// The host may do anything inside a notification, while a child dialog runs and in the messages that its windows get
+/// when one opens or goes: also delete this object, or destroy the window and make a new one. A command that was for
+/// the former window ends there.
 class CALCTOL_API CCalcTolDlg : public CCalcTolDlgBase, public GridEditMenuParent, public WeightChain
 {
     DECLARE_DYNCREATE(CCalcTolDlg)
@@ -130,10 +132,10 @@ private:
     // child dialogs
     bool Notify(HostNotification code);
     template <typename Child, typename... Arguments>
-    Child& Renew(Child*& slot, Arguments... arguments);
+    Child* Renew(Child*& slot, Arguments... arguments);
     std::optional<INT_PTR> RunChild(CDialog& child);
     void RunEdit(CDialog& child);
-    void RunDistribution(const CVariableParams& params, HostNotification code);
+    void RunDistribution(CVariableDlg& child, HostNotification code);
     void RunWeights(void* hostObject);
 
     CFListCtrl m_chainList;
@@ -151,5 +153,5 @@ private:
     CWnd* m_hostWindow = nullptr;
     CString m_fileName;
     CPictureFrame m_diagram;
-    Lifetime m_lifetime;
+    Lifetime m_windowLife;  // from the window's beginning to its end
 };

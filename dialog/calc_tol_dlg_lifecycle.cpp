@@ -85,6 +85,7 @@ BOOL CCalcTolDlg::OnInitDialog()
 {
     const CModuleSkin skin(kModuleCalcTol);
     CCalcTolDlgBase::OnInitDialog();
+    m_windowLife.Begin();
     m_calcMethod = 0;  // a former window may have left another one
     SetUpChainList();
     SetUpClosingList();
@@ -172,6 +173,7 @@ void CCalcTolDlg::CancelDialog()
 // Windows takes the children's windows away with this one; their objects stay, see the class.
 void CCalcTolDlg::OnDestroy()
 {
+    m_windowLife.End();
     m_editTolDlg = nullptr;
     m_editCloseTolDlg = nullptr;
     m_variableDlg = nullptr;

@@ -77,28 +77,35 @@ void DeleteChild(Child*& slot)
 
 }  // namespace
 
-// Whether this dialog is still there afterwards.
+// Whether the window that the command was given to is still there afterwards.
 bool CCalcTolDlg::Notify(HostNotification code)
 {
-    const LifetimeWatch watch(m_lifetime);
+    const LifetimeWatch watch(m_windowLife);
     NotifyHost(m_hostWindow, code);
-    return !watch.IsOver() && ::IsWindow(m_hWnd);
+    return !watch.IsOver();
 }
 
-// One of a kind: a child that runs ends when the next one takes its place.
+// One of a kind: a child that runs ends when the next one takes its place. Its end enables and activates the host's
+// windows, so that the rows may be others afterwards; null when the dialog's window is gone.
 template <typename Child, typename... Arguments>
-Child& CCalcTolDlg::Renew(Child*& slot, Arguments... arguments)
+Child* CCalcTolDlg::Renew(Child*& slot, Arguments... arguments)
 {
-    DeleteChild(slot);
+    const LifetimeWatch watch(m_windowLife);
+    do
+    {
+        DeleteChild(slot);
+        if (watch.IsOver())
+            return nullptr;
+    } while (slot != nullptr);  // the host may have opened another one meanwhile
     slot = new Child(this, arguments...);
-    return *slot;
+    return slot;
 }
 
 // Runs a child dialog and, when the user ended it, brings this dialog back to the front and the keyboard to the host.
 // Afterwards the child may be gone. Nothing when there is nothing left to do: the host ended the child, or this dialog.
 std::optional<INT_PTR> CCalcTolDlg::RunChild(CDialog& child)
 {
-    const LifetimeWatch watch(m_lifetime);
+    const LifetimeWatch watch(m_windowLife);
     const INT_PTR result = child.DoModal();
     if (watch.IsOver() || result == kEndedByHost)
         return std::nullopt;
@@ -122,9 +129,11 @@ void CCalcTolDlg::OnCreateDimChain()
     const CModuleSkin skin(kModuleCalcTol);
     if (!Notify(kLinkBegins))
         return;
-    CEditTolDlg& child = Renew(m_editTolDlg);
-    child.SetHostWindow(m_hostWindow);
-    const std::optional<INT_PTR> result = RunChild(child);
+    CEditTolDlg* const child = Renew(m_editTolDlg);
+    if (child == nullptr)
+        return;
+    child->SetHostWindow(m_hostWindow);
+    const std::optional<INT_PTR> result = RunChild(*child);
     if (!result)
         return;
     if (*result == IDOK || (*result == IDCANCEL && HasLinks()))
@@ -137,9 +146,11 @@ void CCalcTolDlg::OnCreateCloseDimChain()
     const CModuleSkin skin(kModuleCalcTol);
     if (!Notify(kClosingBegins))
         return;
-    CEditCloseTolDlg& child = Renew(m_editCloseTolDlg);
-    child.SetHostWindow(m_hostWindow);
-    const std::optional<INT_PTR> result = RunChild(child);
+    CEditCloseTolDlg* const child = Renew(m_editCloseTolDlg);
+    if (child == nullptr)
+        return;
+    child->SetHostWindow(m_hostWindow);
+    const std::optional<INT_PTR> result = RunChild(*child);
     if (!result)
         return;
     if (*result == IDOK)
@@ -152,13 +163,13 @@ void CCalcTolDlg::OnEditDimChain()
     const CModuleSkin skin(kModuleCalcTol);
     if (FocusLink() == nullptr || !Notify(kEditBegins))
         return;
-    const Row* const link = FocusLink();  // the host may have deleted it
+    CEditTolDlg* const child = Renew(m_editTolDlg);
+    const Row* const link = child != nullptr ? FocusLink() : nullptr;
     if (link == nullptr)
         return;
-    CEditTolDlg& child = Renew(m_editTolDlg);
-    child.SetHostWindow(m_hostWindow);
-    child.Params() = LinkParams(*link);
-    RunEdit(child);
+    child->SetHostWindow(m_hostWindow);
+    child->Params() = LinkParams(*link);
+    RunEdit(*child);
 }
 
 void CCalcTolDlg::OnEditCloseDimChain()
@@ -166,32 +177,42 @@ void CCalcTolDlg::OnEditCloseDimChain()
     const CModuleSkin skin(kModuleCalcTol);
     if (!Notify(kEditBegins))
         return;
-    CEditCloseTolDlg& child = Renew(m_editCloseTolDlg);
-    child.SetHostWindow(m_hostWindow);
-    child.Params() = ClosingParams(*ClosingRow());
-    RunEdit(child);
+    CEditCloseTolDlg* const child = Renew(m_editCloseTolDlg);
+    if (child == nullptr)
+        return;
+    child->SetHostWindow(m_hostWindow);
+    child->Params() = ClosingParams(*ClosingRow());
+    RunEdit(*child);
 }
 
 void CCalcTolDlg::OnVariableEditDimChain()
 {
     const CModuleSkin skin(kModuleCalcTol);
-    if (const Row* const link = FocusLink())
-        RunDistribution(Distribution(*link, link->Text(kColumnName), KindOfLinkImage(link->Image(kColumnName))),
-                        kLinkBegins);
+    if (FocusLink() == nullptr)
+        return;
+    CVariableDlg* const child = Renew(m_variableDlg);
+    const Row* const link = child != nullptr ? FocusLink() : nullptr;
+    if (link == nullptr)
+        return;
+    child->Params() = Distribution(*link, link->Text(kColumnName), KindOfLinkImage(link->Image(kColumnName)));
+    RunDistribution(*child, kLinkBegins);
 }
 
 void CCalcTolDlg::OnVariableCloseEditDimChain()
 {
     const CModuleSkin skin(kModuleCalcTol);
-    if (ClosingRecord() != nullptr)
-        RunDistribution(Distribution(*ClosingRow(), L"X", ClosingRow()->Item(kColumnName).value), kClosingBegins);
+    if (ClosingRecord() == nullptr)
+        return;
+    CVariableDlg* const child = Renew(m_variableDlg);
+    if (child == nullptr || ClosingRecord() == nullptr)
+        return;
+    child->Params() = Distribution(*ClosingRow(), L"X", ClosingRow()->Item(kColumnName).value);
+    RunDistribution(*child, kClosingBegins);
 }
 
-void CCalcTolDlg::RunDistribution(const CVariableParams& params, HostNotification code)
+void CCalcTolDlg::RunDistribution(CVariableDlg& child, HostNotification code)
 {
-    CVariableDlg& child = Renew(m_variableDlg);
     child.SetHostWindow(m_hostWindow);
-    child.Params() = params;
     const LifetimeWatch watch = child.Watch();
     if (!Notify(code))
         return;
@@ -215,9 +236,11 @@ void CCalcTolDlg::OnWeightDimChain()
 void CCalcTolDlg::RunWeights(void* hostObject)
 {
     const CModuleSkin skin(kModuleCalcTol);
-    CWeightDlg& child = Renew(m_weightDlg, static_cast<const WeightChain*>(this));
-    child.SetHostObject(hostObject);
-    RunEdit(child);
+    CWeightDlg* const child = Renew(m_weightDlg, static_cast<const WeightChain*>(this));
+    if (child == nullptr)
+        return;
+    child->SetHostObject(hostObject);
+    RunEdit(*child);
 }
 
 CString CCalcTolDlg::ChainText() const

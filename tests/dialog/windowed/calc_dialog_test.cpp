@@ -1,5 +1,7 @@
 #include "tests/dialog/windowed/calc_dialog_test.h"
 
+#include <utility>
+
 namespace
 {
 
@@ -48,6 +50,21 @@ void ScriptedHost::AnswerNothing()
 {
     m_answers.clear();
     m_answerToAll = nullptr;
+    m_whenEnabled = nullptr;
+    m_whenFocused = nullptr;
+}
+
+LRESULT ScriptedHost::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT result = RecordingWindow::WindowProc(message, wParam, lParam);
+    std::function<void()> action;
+    if (message == WM_ENABLE && wParam != FALSE)
+        action = std::exchange(m_whenEnabled, nullptr);
+    if (message == WM_SETFOCUS)
+        action = std::exchange(m_whenFocused, nullptr);
+    if (action)
+        action();
+    return result;
 }
 
 CDimParams Dimension(const wchar_t* name, const wchar_t* nominal, const wchar_t* upper, const wchar_t* lower,

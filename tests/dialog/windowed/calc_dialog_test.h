@@ -30,11 +30,20 @@ public:
     void On(WPARAM code, std::function<void()> answer) { m_answers[code] = std::move(answer); }
     /// Done inside every notification, before the answer to its code.
     void OnEvery(std::function<void()> answer) { m_answerToAll = std::move(answer); }
+    /// Done the next time that the window is enabled.
+    void OnEnabled(std::function<void()> action) { m_whenEnabled = std::move(action); }
+    /// Done the next time that the window gets the keyboard.
+    void OnFocused(std::function<void()> action) { m_whenFocused = std::move(action); }
     void AnswerNothing();
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
     std::map<WPARAM, std::function<void()>> m_answers;
     std::function<void()> m_answerToAll;
+    std::function<void()> m_whenEnabled;
+    std::function<void()> m_whenFocused;
 };
 
 /// A dimension without a tolerance field, so that its deviations stay as they are given.
@@ -122,6 +131,10 @@ inline constexpr ChildKind kClosingChild{"Closing", ID_CLOSING_EDIT, IDC_CLOSING
 inline constexpr ChildKind kDistributionChild{"Distribution", ID_LINK_DISTRIBUTION, IDC_VARIABLE_OK,
                                               IDC_VARIABLE_CANCEL, IDC_VARIABLE_LAW};
 inline constexpr ChildKind kWeightChild{"Weight", ID_CHAIN_WEIGHTS, IDOK, IDCANCEL, IDC_WEIGHT_SLIDER};
+// The first two, opened for a row that is not there yet.
+inline constexpr ChildKind kNewLinkChild{"NewLink", ID_LINK_ADD, IDC_LINK_OK, IDC_LINK_CANCEL, IDC_LINK_FIELD};
+inline constexpr ChildKind kNewClosingChild{"NewClosing", ID_CLOSING_ADD, IDC_CLOSING_OK, IDC_CLOSING_CANCEL,
+                                            IDC_CLOSING_FIELD};
 
 inline void PrintTo(const ChildKind& kind, std::ostream* out)
 {

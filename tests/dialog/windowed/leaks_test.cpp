@@ -116,6 +116,21 @@ TEST_F(Leaks, AreNoChildrenBeforeTheLast)
     Close();
 }
 
+TEST_F(Leaks, AreNoChildrenThatTheHostOpensWhileTheirKindIsReplaced)
+{
+    Renew();
+    FillChain();
+    FocusOnLink(0);
+    const Step cancel = [this] { ClickChild(IDC_VARIABLE_CANCEL); };
+    ExpectNothingLeftBy([&] {
+        Command(ID_LINK_DISTRIBUTION, {[&] {
+                    host.OnEnabled([&] { Command(ID_LINK_DISTRIBUTION, {cancel}); });
+                    Command(ID_LINK_DISTRIBUTION, {cancel});
+                }});
+    });
+    Close();
+}
+
 TEST_F(Leaks, AreTheRecordsOfRowsWhenTheWindowGoesWithoutAReset)
 {
     ExpectNothingLeftBy([this] {

@@ -111,6 +111,25 @@ TEST_P(ReentrantHost, MayDeleteTheDialog)
     PumpUntilIdle();
 }
 
+// The command was for the former window: its child dialog does not open over the new one.
+TEST_P(ReentrantHost, MayOpenTheWindowAnew)
+{
+    m_opensAfterwards = false;
+    InsideTheNotification([this] {
+        dialog->DestroyWindow();
+        dialog->Create(&host);
+    });
+    Cause();
+    EXPECT_EQ(host.Notifications().back(), GetParam().code) << "nothing follows";
+    EXPECT_EQ(Child(), nullptr);
+    EXPECT_TRUE(::IsWindowVisible(Window()));
+    EXPECT_TRUE(::IsWindowEnabled(Window()));
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+    EXPECT_TRUE(Objects().empty());
+    EXPECT_EQ(Links().FocusRow(), -1);
+    EXPECT_EQ(Closing().FocusRow(), -1);
+}
+
 TEST_P(ReentrantHost, MayEndTheModalDialog)
 {
     InsideTheNotification([this] { dialog->EndModal(); });
