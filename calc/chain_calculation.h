@@ -45,7 +45,7 @@ struct ChainResult
     double middle = 0.0;          // M0, middle of the field; probabilistic method, as all that follow
     double grouping = 0.0;        // E0, centre of grouping
     double variance = 0.0;        // D0, may be negative
-    double field = 0.0;           // T; NaN when the variance is negative
+    double field = 0.0;           // T; NaN when the variance is negative and the closing link has a law
     bool nominalMatches = false;  // |A0 - required nominal| <= 1e-9; never when A0 is not a number
 
     std::string requiredUpperText;
@@ -70,9 +70,9 @@ struct ChainResult
 ///
 /// Probabilistic: the field of the closing link from its variance and its own law, around the sum of the fields'
 /// middles. The variances of decreasing links are subtracted from those of the increasing ones, which makes the
-/// variance small or negative where they prevail; the field and the limits are NaN then. A link without a known law
-/// takes the standard deviation of the link before it (0 for the first), a closing link without one the computed
-/// nominal as its field.
+/// variance small, or negative where they prevail; a negative one makes the field and the limits NaN. A link without a
+/// known law takes the standard deviation of the link before it (0 for the first), a closing link without one the
+/// computed nominal as its field, whatever the variance is.
 ///
 /// @param links  in chain order
 /// @return       nothing for another method or for fewer than two links

@@ -109,14 +109,16 @@ TEST(AnalyticMethod, KeepsTheSignOfADifferenceThatRoundsToZero)
     EXPECT_EQ(result.upperDevText, "-0");
 }
 
-// 0.1 + 0.2 is 0.30000000000000004 before rounding.
+// Before rounding: nominal 6.0000000004, limits 6.0300000008 and 5.9800000001, deviations 0.0300000004 and
+// -0.0200000003.
 TEST(AnalyticMethod, RoundsEachResultToNineDecimalPlaces)
 {
-    const ChainResult result = Analytic({Increasing(0.1, 0.1, 0), Increasing(0.2, 0.2, -0.0000000004)});
-    EXPECT_EQ(result.nominal, 300000000.0 * 1e-9);
-    EXPECT_EQ(result.upperDev, 300000000.0 * 1e-9);
-    EXPECT_EQ(result.upperLimit, 600000000.0 * 1e-9);
-    EXPECT_EQ(result.lowerDevText, "-0");
+    const ChainResult result = Analytic({Increasing(10.0000000004, 0.0300000004, -0.0200000003), Decreasing(4, 0, 0)});
+    EXPECT_EQ(result.nominal, 6000000000.0 * 1e-9);
+    EXPECT_EQ(result.upperLimit, 6030000001.0 * 1e-9);
+    EXPECT_EQ(result.lowerLimit, 5980000000.0 * 1e-9);
+    EXPECT_EQ(result.upperDev, 30000000.0 * 1e-9);
+    EXPECT_EQ(result.lowerDev, -20000000.0 * 1e-9);
 }
 
 // ES below EI: nothing is put in order, the results follow the formulas.

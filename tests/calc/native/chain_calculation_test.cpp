@@ -44,9 +44,10 @@ TEST(ChainCalculation, ComputesNothingForFewerThanTwoLinks)
     }
 }
 
+// 0.3000000004 and -0.0000000004 before rounding.
 TEST(ChainCalculation, RoundsTheRequiredLimits)
 {
-    const ClosingLink closing{.nominal = 0.1, .upperDev = 0.2, .lowerDev = -0.1000000004, .law = 1};
+    const ClosingLink closing{.nominal = 0.1, .upperDev = 0.2000000004, .lowerDev = -0.1000000004, .law = 1};
     for (const std::int32_t method : kMethods)
     {
         SCOPED_TRACE(method);

@@ -69,6 +69,22 @@ TEST(ProbabilisticMethod, TakesTheDeviationsFromItsLimitsWithoutRounding)
     EXPECT_EQ(result.lowerDevText, "-0.121824599");
 }
 
+// Before rounding: nominal 6.0000000004, middle 6.0200000003 of the limits 9.9800000003 and 10.0600000003 less 4,
+// centre of grouping 6.0100000002.
+TEST(ProbabilisticMethod, RoundsNominalMiddleAndCentreOfGroupingToNineDecimalPlaces)
+{
+    const ComponentLink increasing{.nominal = 10.0000000004,
+                                   .upperDev = 0.0599999999,
+                                   .lowerDev = -0.0200000001,
+                                   .increasing = 1,
+                                   .law = 1,
+                                   .mean = 10.0100000002};
+    const ChainResult result = Probabilistic({increasing, Link(4, 0, 1, 0)});
+    EXPECT_EQ(result.nominal, 6000000000.0 * 1e-9);
+    EXPECT_EQ(result.middle, 6020000000.0 * 1e-9);
+    EXPECT_EQ(result.grouping, 6010000000.0 * 1e-9);
+}
+
 TEST(ProbabilisticMethod, SubtractsTheVariancesOfDecreasingLinks)
 {
     // sigma 0.2 and 0.1: 0.04 - 0.01, not 0.05
@@ -145,6 +161,16 @@ TEST(ProbabilisticMethod, ANegativeVarianceGivesNoNumbers)
     EXPECT_TRUE(result.nominalMatches);
 }
 
+// The same negative variance, but the field is the nominal.
+TEST(ProbabilisticMethod, AClosingLinkWithoutALawHasItsLimitsAlsoWithANegativeVariance)
+{
+    const ChainResult result = Probabilistic({Link(10, 0.05, 1), Link(4, 0.2, 1, 0)}, {.nominal = 6, .law = 0});
+    EXPECT_EQ(result.varianceText, "-0.001041667");
+    EXPECT_EQ(result.fieldText, "6");
+    EXPECT_EQ(result.upperLimitText, "9");
+    EXPECT_EQ(result.lowerLimitText, "3");
+}
+
 TEST(ProbabilisticMethod, TheCentreOfGroupingMovesNoLimit)
 {
     std::vector<ComponentLink> links = WorkedLinks();
@@ -172,6 +198,20 @@ TEST(ProbabilisticMethod, SumsIncreasingAndDecreasingLinksApart)
     EXPECT_EQ(result.nominal, 0.0);
     EXPECT_EQ(result.middle, 0.0);
     EXPECT_EQ(result.grouping, 0.0);
+}
+
+// Both limits, 1e16 + 1 and 1e16 - 1, are 1e16; the deviations on their own have a width of 2 and a variance of 1/9.
+TEST(ProbabilisticMethod, TakesTheFieldOfALinkFromItsLimits)
+{
+    EXPECT_EQ(Probabilistic({Link(1e16, 2, 1), kExactZero}).varianceText, "0");
+}
+
+// The limits 1e16 + 5 and 1e16 + 1 are 1e16 + 4 and 1e16, their middle 1e16 + 2; the nominal and the middle of the
+// deviations, 1e16 + 3, are 1e16 + 4.
+TEST(ProbabilisticMethod, TakesTheMiddleOfALinkFromItsLimits)
+{
+    const ComponentLink increasing{.nominal = 1e16, .upperDev = 5, .lowerDev = 1, .increasing = 1, .law = 1};
+    EXPECT_EQ(Probabilistic({increasing, Link(1e16, 0, 1, 0)}).middleText, "2");
 }
 
 // Reversed limits make sigma negative; its square is the same.
