@@ -4,9 +4,8 @@
 #include <optional>
 
 // Distribution laws of a size within its tolerance field. The codes travel between host and module as 32-bit integers,
-// so any other number may arrive.
+// so any other number may arrive; 0 stands for none.
 
-inline constexpr std::int32_t kNoLaw = 0;          // not chosen yet
 inline constexpr std::int32_t kNormalLaw = 1;      // Gauss; the field is taken as plus or minus three sigma
 inline constexpr std::int32_t kUniformLaw = 2;     // equal probability
 inline constexpr std::int32_t kTriangularLaw = 3;  // Simpson
