@@ -12,7 +12,9 @@ namespace
 // Decimal deviations that are equal may differ in their last bits.
 constexpr double kEqualDeviations = 1e-9;
 
-// The computed field in ascending order.
+constexpr int kNarrowestOutside = 1;  // pixels that the smallest excess has
+
+// The computed field in ascending order, at least one pixel wide.
 struct FieldSpan
 {
     double lower;
@@ -36,7 +38,19 @@ int CutColumn(const FieldSpan& field, double value, const LimitMarker& marker, b
 {
     if (areSpread || !marker.x)
         return ColumnByValue(field, value);
-    return std::clamp(*marker.x, field.left, field.right);
+    return *marker.x;
+}
+
+int LowerCut(const FieldSpan& field, const DiagramDeviations& deviations, const LimitMarkers& markers)
+{
+    const int column = CutColumn(field, deviations.requiredLower, markers.requiredLower, markers.areSpread);
+    return std::clamp(column, field.left + kNarrowestOutside, field.right);
+}
+
+int UpperCut(const FieldSpan& field, const DiagramDeviations& deviations, const LimitMarkers& markers)
+{
+    const int column = CutColumn(field, deviations.requiredUpper, markers.requiredUpper, markers.areSpread);
+    return std::clamp(column, field.left, field.right - kNarrowestOutside);
 }
 
 bool IsWhollyOutside(const FieldSpan& field, const DiagramDeviations& deviations)
@@ -55,13 +69,18 @@ std::vector<FieldPiece> Pieces(const FieldSpan& field, const DiagramDeviations& 
     FieldPiece inside = whole;
     if (IsWithin(field, deviations.requiredLower))
     {
-        inside.left = CutColumn(field, deviations.requiredLower, markers.requiredLower, markers.areSpread);
+        inside.left = LowerCut(field, deviations, markers);
         inside.leftEdge = PieceEdge::RequiredLower;
     }
     if (IsWithin(field, deviations.requiredUpper))
     {
-        inside.right = CutColumn(field, deviations.requiredUpper, markers.requiredUpper, markers.areSpread);
+        inside.right = UpperCut(field, deviations, markers);
         inside.rightEdge = PieceEdge::RequiredUpper;
+    }
+    if (inside.left > inside.right)  // no room for the inside: the pieces outside meet in one column
+    {
+        inside.left = std::clamp(inside.right, whole.left + kNarrowestOutside, inside.left);
+        inside.right = inside.left;
     }
     return {{whole.left, inside.left, PieceEdge::FieldEnd, inside.leftEdge, false},
             inside,
@@ -83,6 +102,8 @@ std::vector<FieldPiece> CutField(const DiagramDeviations& deviations, const Limi
         std::swap(field.lower, field.upper);
         std::swap(field.left, field.right);
     }
+    if (field.left >= field.right)
+        return {};
 
     std::vector<FieldPiece> pieces;
     if (IsWhollyOutside(field, deviations))

@@ -32,9 +32,9 @@ struct FieldPiece
 ///
 /// What lies inside is decided by the deviations, not by the pixels: equal limits (to 1e-9) are inside, and required
 /// limits in reversed order leave nothing inside. A cut stands at the required limit's marker, or, when the markers
-/// have been spread, where its deviation lies between the two ends of the field. Computed limits in reversed order make
-/// the same field. Pieces without a pixel are left out; a field without width, or one whose deviations are not numbers,
-/// has none.
+/// have been spread, where its deviation lies between the two ends of the field; a piece outside is at least one pixel
+/// wide, at the cost of the inside. Computed limits in reversed order make the same field. Pieces without a pixel are
+/// left out; a field without width, or one whose deviations are not numbers, has none.
 std::vector<FieldPiece> CutField(const DiagramDeviations& deviations, const LimitMarkers& markers);
 
 /// Colour of a piece.

@@ -174,3 +174,12 @@ TEST(AnalyticPicture, ASmallExcessIsRedFromItsMarkerOn)
     const DisplayList list = LayoutChainDiagram(AnalyticInput({0.98, -1, 1, -1}));
     EXPECT_EQ(TextOf<RectPrimitive>(list), "rect 61DC05 60 140 337 180\nrect FF0000 337 140 340 180\n");
 }
+
+// 70.01 and 70.04 pixels: required and computed limit stand in one column.
+TEST(AnalyticPicture, AnExcessBelowOnePixelIsRed)
+{
+    EXPECT_EQ(TextOf<RectPrimitive>(LayoutChainDiagram(AnalyticInput({0.5001, -1, 0.5003, -1}))),
+              "rect 61DC05 60 140 269 180\nrect FF0000 269 140 270 180\n");
+    EXPECT_EQ(TextOf<RectPrimitive>(LayoutChainDiagram(AnalyticInput({1, -0.5001, 1, -0.5003}))),
+              "rect FF0000 130 140 131 180\nrect 61DC05 131 140 340 180\n");
+}

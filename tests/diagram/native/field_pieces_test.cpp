@@ -85,6 +85,63 @@ TEST(FieldPieces, AreNoneForAFieldWithoutAPixel)
     EXPECT_TRUE(Cut({14, -14, 0.01, 0}).empty());  // a tenth of a pixel
 }
 
+// 70.1 and 70.3 pixels: required and computed limit stand in one column.
+TEST(FieldPieces, AnExcessBelowOnePixelIsOnePixelWide)
+{
+    const auto above = Cut({7.01, -14, 7.03, -14});
+    ASSERT_EQ(above.size(), 2U);
+    EXPECT_TRUE(above[0].isInside);
+    EXPECT_FALSE(above[1].isInside);
+    EXPECT_EQ(above[1].left, 269);
+    EXPECT_EQ(above[1].right, 270);
+    const auto below = Cut({14, -7.01, 14, -7.03});
+    ASSERT_EQ(below.size(), 2U);
+    EXPECT_FALSE(below[0].isInside);
+    EXPECT_EQ(below[0].left, 130);
+    EXPECT_EQ(below[0].right, 131);
+    EXPECT_TRUE(below[1].isInside);
+    EXPECT_EQ(below[1].left, 131);
+}
+
+// The field has the one pixel from 200 to 201, and one limit within it.
+TEST(FieldPieces, RedWinsOverGreenWhenThereIsNoRoomForBoth)
+{
+    for (const DiagramDeviations& deviations :
+         {DiagramDeviations{0.05, -14, 0.1, 0}, DiagramDeviations{14, 0.05, 0.1, 0}})
+    {
+        const auto pieces = Cut(deviations);
+        ASSERT_EQ(pieces.size(), 1U);
+        EXPECT_FALSE(pieces[0].isInside);
+        EXPECT_EQ(pieces[0].left, 200);
+        EXPECT_EQ(pieces[0].right, 201);
+    }
+}
+
+// Width 122 has one pixel for the largest deviation, from 61 to 62.
+TEST(FieldPieces, OnePixelWithBothRequiredLimitsIsOnePiece)
+{
+    const DiagramDeviations deviations{0.08, 0.02, 0.1, 0};
+    const auto pieces = CutField(deviations, PlaceMarkers(deviations, 122));
+    ASSERT_EQ(pieces.size(), 1U);
+    EXPECT_FALSE(pieces[0].isInside);
+    EXPECT_EQ(pieces[0].left, 61);
+    EXPECT_EQ(pieces[0].right, 62);
+}
+
+// The field's columns are 130 to 340, then 60 to 270; both required limits stand at the end of it.
+TEST(FieldPieces, OutsidePiecesMeetWhenBothLimitsStandAtAnEndOfTheField)
+{
+    const auto first = Cut({-7.01, -7.02, 14, -7.03});
+    ASSERT_EQ(first.size(), 2U);
+    EXPECT_EQ(first[0].right, 131);
+    EXPECT_EQ(first[1].left, 131);
+    const auto last = Cut({7.02, 7.01, 7.03, -14});
+    ASSERT_EQ(last.size(), 2U);
+    EXPECT_EQ(last[0].right, 269);
+    EXPECT_EQ(last[1].left, 269);
+    EXPECT_FALSE(first[0].isInside || first[1].isInside || last[0].isInside || last[1].isInside);
+}
+
 TEST(FieldPieces, LimitsCloserThanANanoAreEqual)
 {
     const auto equal = Cut({14 - 0.9e-9, -14, 14, -14});

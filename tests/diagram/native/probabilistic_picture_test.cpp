@@ -126,6 +126,29 @@ TEST(ProbabilisticPicture, EveryLawIsRedOnBothSidesOfRequiredLimitsThatAreOne)
     }
 }
 
+// 70.01 and 70.04 pixels: required and computed limit stand in one column.
+TEST(ProbabilisticPicture, EveryLawIsRedWhereItExceedsALimitByLessThanAPixel)
+{
+    for (const std::int32_t law : {kNormal, kUniform, kTriangular})
+    {
+        SCOPED_TRACE(law);
+        const auto above = AllOf<FillPrimitive>(Picture({0.5001, -1, 0.5003, -1}, law));
+        ASSERT_EQ(above.size(), 2U);
+        EXPECT_EQ(above[0].color, (Rgb{97, 220, 5}));
+        EXPECT_EQ(above[0].corners.back(), (PixelPoint{269, 300}));
+        EXPECT_EQ(above[1].color, (Rgb{255, 0, 0}));
+        EXPECT_EQ(above[1].corners.front(), (PixelPoint{269, 300}));
+        EXPECT_EQ(above[1].corners.back(), (PixelPoint{270, 300}));
+        const auto below = AllOf<FillPrimitive>(Picture({1, -0.5001, 1, -0.5003}, law));
+        ASSERT_EQ(below.size(), 2U);
+        EXPECT_EQ(below[0].color, (Rgb{255, 0, 0}));
+        EXPECT_EQ(below[0].corners.front(), (PixelPoint{130, 300}));
+        EXPECT_EQ(below[0].corners.back(), (PixelPoint{131, 300}));
+        EXPECT_EQ(below[1].color, (Rgb{97, 220, 5}));
+        EXPECT_EQ(below[1].corners.front(), (PixelPoint{131, 300}));
+    }
+}
+
 TEST(ProbabilisticPicture, EveryPieceIsOutlinedAndClosedOverItsFill)
 {
     for (const std::int32_t law : {kNormal, kUniform, kTriangular})
