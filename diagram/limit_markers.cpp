@@ -12,7 +12,7 @@ namespace
 
 constexpr int kSideInset = 60;                // kept free beside the outermost marker, room for its labels
 constexpr double kSmallestSeparation = 40.0;  // between the two computed markers on one side
-constexpr double kEqualShare = 1e-9;          // of the scale, below a thousandth of a pixel
+constexpr double kEqualShare = 1e-9;          // of a deviation or its distance, below a thousandth of a pixel
 
 enum class Limit
 {
@@ -41,8 +41,15 @@ double LargestFinite(const DiagramDeviations& deviations)
     return largest;
 }
 
-// Whether a deviation is the largest one, or equals it but for the last bits of the doubles: the same decimal number
-// differs by so much between a required and a computed deviation.
+// The same decimal number differs in the last bits of the double between a required and a computed deviation. A
+// distance that falls short of a whole number by no more than that must not lose a pixel.
+double WholeWhenNearlySo(double distance)
+{
+    const double whole = std::round(distance);
+    return std::abs(distance - whole) <= std::abs(whole) * kEqualShare ? whole : distance;
+}
+
+// Whether a deviation is the largest one, or equals it but for the last bits.
 bool IsLargest(double deviation, double largest)
 {
     return std::abs(deviation) >= largest * (1.0 - kEqualShare);
@@ -54,11 +61,9 @@ double Distance(double deviation, double largest, int reach)
         return std::numeric_limits<double>::quiet_NaN();
     if (largest == 0.0)
         return 0.0;
-    if (IsLargest(deviation, largest))  // at the inset, where the quotient may fall short
-        return reach;
     const double size = std::abs(deviation);
     const double product = reach * size;
-    return std::isfinite(product) ? product / largest : reach * (size / largest);
+    return WholeWhenNearlySo(std::isfinite(product) ? product / largest : reach * (size / largest));
 }
 
 MarkerDistances Distances(const DiagramDeviations& deviations, int reach)
@@ -76,8 +81,8 @@ bool Spread(MarkerDistances& distances, double MarkerDistances::*outer, double M
         return false;
     const double factor = distances.*inner / spreadInner;
     distances.*inner = spreadInner;
-    distances.requiredUpper *= factor;
-    distances.requiredLower *= factor;
+    distances.requiredUpper = WholeWhenNearlySo(distances.requiredUpper * factor);
+    distances.requiredLower = WholeWhenNearlySo(distances.requiredLower * factor);
     return true;
 }
 

@@ -36,7 +36,8 @@ struct LimitMarkers
 int ScaleReach(int width);
 
 /// Places the markers on the scale on which the largest finite deviation stands 60 pixels inside the area's edge and 0
-/// on the centre line; when all are 0 all stand on the centre line.
+/// on the centre line; when all are 0 all stand on the centre line. Distances are cut to whole pixels, but for one that
+/// is whole within a billionth: deviations that are equal as decimal numbers share a column.
 ///
 /// A marker at or right of the centre line has its labels to the right of it, one pixel away; any other has them to the
 /// left. The labels of a marker without a line stand at the centre line.

@@ -4,6 +4,23 @@
 
 // An area of 400 by 300 pixels: centre line 200, base line 280, 140 pixels for the largest deviation.
 
+namespace
+{
+
+// Columns of the vertical lines that begin in a row: 40 the required limits, 120 the computed ones, the upper first.
+std::vector<int> MarkersFrom(int row, const DisplayList& list)
+{
+    std::vector<int> columns;
+    for (const LinePrimitive& line : AllOf<LinePrimitive>(list))
+    {
+        if (line.start.x == line.end.x && line.start.y == row)
+            columns.push_back(line.start.x);
+    }
+    return columns;
+}
+
+}  // namespace
+
 // The chain 10 +0.1/-0.1 less 4 +0.05/0, required 6 +0.15/-0.15. Largest deviation 0.15 at 140 pixels; 0.1 at
 // 140 * 2 / 3 = 93.3. The computed -0.15 has one bit more than the required 0.15 and still stands in the same column.
 TEST(AnalyticPicture, OfTheWorkedExampleIsThisList)
@@ -150,9 +167,9 @@ TEST(AnalyticPicture, DecimalFieldsThatAreEqualAreAllGreen)
     EXPECT_EQ(TextOf<RectPrimitive>(list), "rect 61DC05 60 140 340 180\n");
 }
 
-// A computed deviation is a multiple of 1e-9 in doubles, a required one the nearest double of its text. Their columns
-// may differ by one, where the quotient is a whole number but for its last bits.
-TEST(AnalyticPicture, DecimalFieldsThatAreEqualAreAllGreenAtEverySize)
+// A computed deviation is a multiple of 1e-9 in doubles, a required one the nearest double of its text: the quotients
+// on the scale, a half here, differ in their last bits.
+TEST(AnalyticPicture, DecimalFieldsThatAreEqualAreAllGreenAndHaveTheSameMarkersAtEverySize)
 {
     for (int thousandths = 1; thousandths <= 2000; ++thousandths)
     {
@@ -161,9 +178,11 @@ TEST(AnalyticPicture, DecimalFieldsThatAreEqualAreAllGreenAtEverySize)
         for (const DeviationCase& deviations : {DeviationCase{required, -2 * required, computed, -2 * computed},
                                                 DeviationCase{2 * required, -required, 2 * computed, -computed}})
         {
-            const auto bar = AllOf<RectPrimitive>(LayoutChainDiagram(AnalyticInput(deviations)));
+            const DisplayList list = LayoutChainDiagram(AnalyticInput(deviations));
+            const auto bar = AllOf<RectPrimitive>(list);
             ASSERT_EQ(bar.size(), 1U) << required;
             ASSERT_EQ(bar[0].color, (Rgb{97, 220, 5})) << required;
+            ASSERT_EQ(MarkersFrom(120, list), MarkersFrom(40, list)) << required;
         }
     }
 }

@@ -1,3 +1,4 @@
+#include "diagram/limit_markers.h"
 #include "tests/diagram/native/diagram_cases.h"
 
 #include <gtest/gtest.h>
@@ -69,11 +70,24 @@ TEST(SpreadMarkers, ARequiredDeviationAsLargeAsTheComputedOneMovesOutward)
     EXPECT_EQ(MarkerColumns({14, -14, 14, 12}), (Columns{368, 32, 340, 300}));
 }
 
-// The computed deviation is one bit below the required one, as decimal numbers they are the same. EI0 at 112 pixels
-// moves to 100, the required markers by 1.12: 140 to 156.8, 70 to 78.4.
-TEST(SpreadMarkers, TheLargestDeviationIsFoundAmongDecimalNumbers)
+// The computed deviation is one bit below the required one, as decimal numbers they are the same. The inner marker at
+// 112 pixels moves to 100, the required markers by 1.12: 140 to 156.8, 70 to 78.4.
+TEST(SpreadMarkers, TheLargestDeviationIsFoundAmongDecimalNumbersOnBothSides)
 {
     EXPECT_EQ(MarkerColumns({0.1 + 0.2, -0.15, 0.3, 0.24}), (Columns{356, 122, 340, 300}));
+    EXPECT_EQ(MarkerColumns({0.15, -(0.1 + 0.2), -0.24, -0.3}), (Columns{278, 44, 100, 60}));
+}
+
+// The required markers at 110 and 50 pixels move to 132 and 60, in doubles to a bit below 132.
+TEST(SpreadMarkers, DecimalDeviationsMoveToWholePixels)
+{
+    EXPECT_EQ(MarkerColumns({0.011, -0.005, 0.014, 0.012}), (Columns{332, 140, 340, 300}));
+}
+
+// 140 * 0.01 / 0.014 is a bit above 100 in doubles, which leaves a bit less than 40 pixels.
+TEST(SpreadMarkers, FortyPixelsBetweenDecimalDeviationsAreEnough)
+{
+    EXPECT_FALSE(PlaceSpreadMarkers({0.009, -0.005, 0.014, 0.01}, 400).areSpread);
 }
 
 // Width 200 leaves 40 pixels, the moved marker would stand on the centre line.
