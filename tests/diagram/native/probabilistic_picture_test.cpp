@@ -224,6 +224,19 @@ TEST(ProbabilisticPicture, ANormalLawIsCutAtTheHeightOfTheRequiredLimit)
     EXPECT_EQ(right.back(), (PixelPoint{340, 300}));
 }
 
+// Cut two sigma below the middle, 0.135335 * 200 = 27.07 in column 200 - 93, and one sigma above it.
+TEST(ProbabilisticPicture, EachCutOfANormalLawHasTheHeightOfItsOwnLimit)
+{
+    const auto fills = AllOf<FillPrimitive>(Picture({7, -14, 21, -21}, kNormal));
+    ASSERT_EQ(fills.size(), 3U);
+    const PixelPoint lowerCut{107, 300 - 27};
+    const PixelPoint upperCut{246, 300 - 121};
+    EXPECT_EQ(fills[0].corners[fills[0].corners.size() - 2], lowerCut);
+    EXPECT_EQ(fills[1].corners[1], lowerCut);
+    EXPECT_EQ(fills[1].corners[fills[1].corners.size() - 2], upperCut);
+    EXPECT_EQ(fills[2].corners[1], upperCut);
+}
+
 TEST(ProbabilisticPicture, ANormalLawOutsideOnOneSideHasTwoPieces)
 {
     const auto fills = AllOf<FillPrimitive>(Picture({7, -14, 14, -14}, kNormal));
