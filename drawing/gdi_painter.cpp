@@ -1,7 +1,6 @@
 #include "drawing/gdi_painter.h"
 
 #include "drawing/display_list.h"
-#include "drawing/scoped_select.h"
 #include "drawing/text_encoding.h"
 
 namespace
