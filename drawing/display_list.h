@@ -44,7 +44,8 @@ struct LinePrimitive
     bool operator==(const LinePrimitive&) const = default;
 };
 
-/// A text of one line in the default font; its y is the text's top.
+/// A text of one line; its y is the text's top. Font and width are the painter's: it may move a text that would leave
+/// the picture.
 struct TextPrimitive
 {
     PixelPoint anchor;

@@ -3,8 +3,12 @@
 #include "drawing/display_list.h"
 #include "drawing/text_encoding.h"
 
+#include <algorithm>
+
 namespace
 {
+
+constexpr COLORREF kGround = RGB(255, 255, 255);
 
 COLORREF ToColor(Rgb color)
 {
@@ -33,10 +37,24 @@ UINT ToTextAlign(TextAlign align)
     }
 }
 
+int LeftEnd(const TextPrimitive& text, int extent)
+{
+    switch (text.align)
+    {
+    case TextAlign::Center:
+        return text.anchor.x - extent / 2;
+    case TextAlign::Right:
+        return text.anchor.x - extent;
+    default:
+        return text.anchor.x;
+    }
+}
+
 /// One overload per primitive.
 struct PrimitivePainter
 {
     CDC& dc;
+    int width;
 
     void operator()(const LinePrimitive& line) const
     {
@@ -46,9 +64,22 @@ struct PrimitivePainter
 
     void operator()(const TextPrimitive& text) const
     {
-        dc.SetTextAlign(ToTextAlign(text.align));
+        const CString characters = FromUtf8(text.text);
+        const int extent = dc.GetTextExtent(characters).cx;
+        const int left = LeftEnd(text, extent);
+        const int leftInside = std::max(0, std::min(left, width - extent));
         dc.SetTextColor(ToColor(text.color));
-        dc.TextOut(text.anchor.x, text.anchor.y, FromUtf8(text.text));
+        if (left == leftInside)
+        {
+            dc.SetTextAlign(ToTextAlign(text.align));
+            dc.TextOut(text.anchor.x, text.anchor.y, characters);
+            return;
+        }
+        dc.SetTextAlign(TA_TOP | TA_LEFT);
+        dc.SetBkColor(kGround);
+        dc.SetBkMode(OPAQUE);
+        dc.TextOut(leftInside, text.anchor.y, characters);
+        dc.SetBkMode(TRANSPARENT);
     }
 
     void operator()(const FillPrimitive& fill) const
@@ -90,11 +121,11 @@ private:
 
 }  // namespace
 
-void PaintDisplayList(CDC& dc, const DisplayList& list)
+void PaintDisplayList(CDC& dc, const DisplayList& list, int width)
 {
     const ScopedState state(dc);
     ::SelectObject(dc.GetSafeHdc(), ::GetStockObject(BLACK_PEN));
     dc.SetBkMode(TRANSPARENT);
     for (const Primitive& primitive : list.primitives)
-        std::visit(PrimitivePainter{dc}, primitive);
+        std::visit(PrimitivePainter{dc, width}, primitive);
 }

@@ -20,6 +20,13 @@ CSize SizeOf(CBitmap& bitmap)
     return {description.bmWidth, description.bmHeight};
 }
 
+// A control that was given no font has the default one of every device context.
+HGDIOBJ TextFont(const CWnd& control)
+{
+    const CFont* const font = control.GetFont();
+    return font != nullptr ? font->GetSafeHandle() : ::GetStockObject(SYSTEM_FONT);
+}
+
 /// The client area of a window until the end of a scope. Without a context left it is null, as nothing may be thrown
 /// at a host that has a picture shown.
 class WindowContext
@@ -62,8 +69,9 @@ bool CPictureFrame::ShowDrawing(const DisplayList& drawing)
     if (m_picture.CreateCompatibleBitmap(&window.Dc(), area.Width(), area.Height()))
     {
         const ScopedSelect selected(memory, m_picture);
+        const ScopedSelect font(memory, TextFont(*this));
         memory.FillSolidRect(&area, RGB(255, 255, 255));
-        PaintDisplayList(memory, drawing);
+        PaintDisplayList(memory, drawing, area.Width());
     }
     return Show();
 }

@@ -72,6 +72,18 @@ Pixels PaintedPixels(int width, int height, const std::function<void(CDC&)>& pai
     return canvas.Read();
 }
 
+Pixels PaintedLike(HWND window, const std::function<void(CDC&)>& paint)
+{
+    RECT area{};
+    ::GetClientRect(window, &area);
+    return PaintedPixels(area.right, area.bottom, [&](CDC& dc) {
+        const auto font = reinterpret_cast<HGDIOBJ>(::SendMessageW(window, WM_GETFONT, 0, 0));
+        const HGDIOBJ former = ::SelectObject(dc.m_hDC, font != nullptr ? font : ::GetStockObject(SYSTEM_FONT));
+        paint(dc);
+        ::SelectObject(dc.m_hDC, former);
+    });
+}
+
 Pixels BitmapPixels(UINT id)
 {
     CBitmap bitmap;

@@ -27,6 +27,9 @@ Pixels ShownPixels(HWND window);
 /// What is painted on a white area.
 Pixels PaintedPixels(int width, int height, const std::function<void(CDC&)>& paint);
 
+/// What is painted on a white area as large as a window's client area, with texts in the window's font.
+Pixels PaintedLike(HWND window, const std::function<void(CDC&)>& paint);
+
 /// A bitmap of the current resource module; empty when there is none.
 Pixels BitmapPixels(UINT id);
 

@@ -208,49 +208,113 @@ std::string LibraryText(UINT id)
     return ToUtf8(ResourceText(id));
 }
 
-/// The picture of the chain that FillWithRequired makes with +-0.15, with each text in its place.
-DisplayList ExpectedDrawing(int width, int height, int method, double requiredNominal, const char* nominalText)
+class DiagramLayout : public Diagram
 {
-    const std::vector<ComponentLink> links = {
-        {.nominal = 10, .upperDev = 0.1, .lowerDev = -0.1, .increasing = 1, .law = 1, .mean = 10},
-        {.nominal = 4, .upperDev = 0.05, .lowerDev = 0, .increasing = 0, .law = 1, .mean = 4.025}};
-    ChainDiagramInput input;
-    input.width = width;
-    input.height = height;
-    input.method = method;
-    input.closing = {.nominal = requiredNominal, .upperDev = 0.15, .lowerDev = -0.15, .law = 1};
-    input.nominalText = nominalText;
-    input.result = Calculate(method, links, input.closing);
-    input.caption = LibraryText(52706);
-    input.upperWord = LibraryText(52701);
-    input.lowerWord = LibraryText(52702);
-    input.mismatchLines = {LibraryText(52709), LibraryText(52710), LibraryText(52711)};
-    return LayoutChainDiagram(input);
-}
+protected:
+    /// The picture of the chain that FillWithRequired makes with +-0.15, with each text in its place.
+    Pixels Expected(int method, double requiredNominal, const char* nominalText) const
+    {
+        const std::vector<ComponentLink> links = {
+            {.nominal = 10, .upperDev = 0.1, .lowerDev = -0.1, .increasing = 1, .law = 1, .mean = 10},
+            {.nominal = 4, .upperDev = 0.05, .lowerDev = 0, .increasing = 0, .law = 1, .mean = 4.025}};
+        const Pixels shown = Shown();
+        ChainDiagramInput input;
+        input.width = shown.width;
+        input.height = shown.height;
+        input.method = method;
+        input.closing = {.nominal = requiredNominal, .upperDev = 0.15, .lowerDev = -0.15, .law = 1};
+        input.nominalText = nominalText;
+        input.result = Calculate(method, links, input.closing);
+        input.caption = LibraryText(52706);
+        input.upperWord = LibraryText(52701);
+        input.lowerWord = LibraryText(52702);
+        input.mismatchLines = {LibraryText(52709), LibraryText(52710), LibraryText(52711)};
+        return PaintedLike(Area(), [&](CDC& dc) { PaintDisplayList(dc, LayoutChainDiagram(input), input.width); });
+    }
+};
 
-TEST_F(Diagram, ShowsTheLayoutOfTheChainWithEachTextInItsPlace)
+TEST_F(DiagramLayout, ShowsTheLayoutOfTheChainWithEachTextInItsPlace)
 {
     FillWithRequired(L"0.15", L"-0.15");
     for (const int method : {kAnalytic, kProbabilistic})
     {
         ChooseMethod(method);
-        const Pixels shown = Shown();
-        const Pixels expected = PaintedPixels(shown.width, shown.height, [&](CDC& dc) {
-            PaintDisplayList(dc, ExpectedDrawing(shown.width, shown.height, method, 6, "6"));
-        });
-        EXPECT_EQ(DifferentPixels(shown, expected), 0) << "method " << method;
+        EXPECT_EQ(DifferentPixels(Shown(), Expected(method, 6, "6")), 0) << "method " << method;
     }
 }
 
-TEST_F(Diagram, ShowsTheLayoutOfDifferentNominalsWithEachTextInItsPlace)
+TEST_F(DiagramLayout, ShowsTheLayoutOfDifferentNominalsWithEachTextInItsPlace)
 {
     FillWithRequired(L"0.15", L"-0.15", L"7.50");
     ChooseMethod(kAnalytic);
-    const Pixels shown = Shown();
-    const Pixels expected = PaintedPixels(shown.width, shown.height, [&](CDC& dc) {
-        PaintDisplayList(dc, ExpectedDrawing(shown.width, shown.height, kAnalytic, 7.5, "7.50"));
-    });
-    EXPECT_EQ(DifferentPixels(shown, expected), 0);
+    EXPECT_EQ(DifferentPixels(Shown(), Expected(kAnalytic, 7.5, "7.50")), 0);
+}
+
+/// Sizes of four digits with decimal places: wider than the room beside the outermost markers.
+class DiagramOfLargeSizes : public Diagram
+{
+protected:
+    enum class Side
+    {
+        Left,
+        Right,
+    };
+
+    static constexpr int kLimitInset = 60;
+    static constexpr int kNominalInset = 40;
+
+    void FillChainOf(const wchar_t* nominal, const wchar_t* upper, const wchar_t* lower)
+    {
+        AddLinks({{Dimension(L"A1", nominal, upper, lower), &objects[0]},
+                  {Dimension(L"A2", L"50", L"0", L"0", 0), &objects[1]}});
+        AddClosing(Dimension(L"", L"1250", upper, lower), &closingObject);
+    }
+
+    /// The text is whole, at the side of the area, and nothing runs through it.
+    void ExpectAtSide(Side side, int y, const wchar_t* text, int inset) const
+    {
+        SCOPED_TRACE(testing::Message() << "text at " << y << " on the " << (side == Side::Left ? "left" : "right"));
+        const Pixels shown = Shown();
+        CSize extent;
+        int left = 0;
+        const Pixels alone = PaintedLike(Area(), [&](CDC& dc) {
+            extent = dc.GetTextExtent(text);
+            left = side == Side::Left ? 0 : shown.width - extent.cx;
+            dc.TextOut(left, y, text);
+        });
+        ASSERT_GT(extent.cx, inset) << "it would be cut";
+        ASSERT_GT(alone.Count(kBlack), 20);
+        int different = 0;
+        for (int row = y; row < y + extent.cy; ++row)
+            for (int column = left; column < left + extent.cx; ++column)
+                different += shown.At(column, row) != alone.At(column, row) ? 1 : 0;
+        EXPECT_EQ(different, 0);
+    }
+};
+
+TEST_F(DiagramOfLargeSizes, KeepsTheLimitsWithinItsArea)
+{
+    FillChainOf(L"1300", L"0.123456789", L"-0.123456789");
+    ChooseMethod(kAnalytic);
+    for (const int y : {40, 180})  // required and computed
+    {
+        ExpectAtSide(Side::Left, y, L"1249.876543211", kLimitInset);
+        ExpectAtSide(Side::Right, y, L"1250.123456789", kLimitInset);
+    }
+}
+
+TEST_F(DiagramOfLargeSizes, KeepsASmallerNominalWithinItsArea)
+{
+    FillChainOf(L"1299.8755", L"0.1", L"-0.1");
+    ChooseMethod(kAnalytic);
+    ExpectAtSide(Side::Left, Shown().height - 20, L"1249.8755", kNominalInset);
+}
+
+TEST_F(DiagramOfLargeSizes, KeepsAGreaterNominalWithinItsArea)
+{
+    FillChainOf(L"1300.1245", L"0.1", L"-0.1");
+    ChooseMethod(kProbabilistic);
+    ExpectAtSide(Side::Right, Shown().height - 20, L"1250.1245", kNominalInset);
 }
 
 TEST_F(Diagram, IsWhiteToBeginWith)

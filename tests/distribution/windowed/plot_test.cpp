@@ -20,7 +20,8 @@ Pixels VariableDialogTest::ExpectedPlot()
     input.mean = Record().mean;
     input.upperWord = ToUtf8(ResourceText(52701));
     input.lowerWord = ToUtf8(ResourceText(52702));
-    return PaintedPixels(area.right, area.bottom, [&](CDC& dc) { PaintDisplayList(dc, LayoutDensityPlot(input)); });
+    return PaintedLike(Window(IDC_VARIABLE_PLOT),
+                       [&](CDC& dc) { PaintDisplayList(dc, LayoutDensityPlot(input), input.width); });
 }
 
 namespace

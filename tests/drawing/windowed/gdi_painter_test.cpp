@@ -17,12 +17,17 @@ constexpr COLORREF kRedPixel = RGB(255, 0, 0);
 constexpr Rgb kGreen{97, 220, 5};
 constexpr Rgb kRed{255, 0, 0};
 
+void Paint(WhiteCanvas& canvas, const DisplayList& list)
+{
+    PaintDisplayList(canvas.Dc(), list, canvas.Width());
+}
+
 TEST(GdiPainter, PaintsALineBlackAndOnePixelWideUpToButWithoutItsEnd)
 {
     WhiteCanvas canvas(30, 20);
     DisplayList list;
     list.Line(5, 4, 5, 14);
-    PaintDisplayList(canvas.Dc(), list);
+    Paint(canvas, list);
     EXPECT_EQ(canvas.At(5, 4), kBlackPixel);
     EXPECT_EQ(canvas.At(5, 13), kBlackPixel);
     EXPECT_EQ(canvas.At(5, 14), kWhitePixel);
@@ -37,7 +42,7 @@ TEST(GdiPainter, PaintsLinesBlackWhateverPenTheContextHas)
         const ScopedSelect selected(canvas.Dc(), pen);
         DisplayList list;
         list.Line(0, 10, 20, 10);
-        PaintDisplayList(canvas.Dc(), list);
+        Paint(canvas, list);
         EXPECT_EQ(::GetCurrentObject(canvas.Dc().GetSafeHdc(), OBJ_PEN), pen) << "the context's pen comes back";
     }
     ::DeleteObject(pen);
@@ -50,7 +55,7 @@ TEST(GdiPainter, FillsAPolygonRegionWithoutItsRightAndBottomEdge)
     WhiteCanvas canvas(30, 20);
     DisplayList list;
     list.Fill(kGreen, {{4, 3}, {14, 3}, {14, 9}, {4, 9}});
-    PaintDisplayList(canvas.Dc(), list);
+    Paint(canvas, list);
     EXPECT_EQ(canvas.Drawn(), CRect(4, 3, 14, 9));
     EXPECT_EQ(canvas.Count(kGreenPixel), 10 * 6);
     EXPECT_EQ(canvas.Count(kBlackPixel), 0) << "a region has no border";
@@ -62,7 +67,7 @@ TEST(GdiPainter, FillsAPolygonByTheWindingRule)
     WhiteCanvas canvas(30, 20);
     DisplayList list;
     list.Fill(kGreen, {{4, 3}, {14, 3}, {14, 9}, {4, 9}, {4, 3}, {14, 3}, {14, 9}, {4, 9}});
-    PaintDisplayList(canvas.Dc(), list);
+    Paint(canvas, list);
     EXPECT_EQ(canvas.Count(kGreenPixel), 10 * 6);
 }
 
@@ -71,7 +76,7 @@ TEST(GdiPainter, FillsARectangleWithoutItsRightAndBottomEdge)
     WhiteCanvas canvas(30, 20);
     DisplayList list;
     list.Rect(kRed, 2, 3, 8, 5);
-    PaintDisplayList(canvas.Dc(), list);
+    Paint(canvas, list);
     EXPECT_EQ(canvas.Drawn(), CRect(2, 3, 8, 5));
     EXPECT_EQ(canvas.Count(kRedPixel), 6 * 2);
 }
@@ -81,7 +86,7 @@ TEST(GdiPainter, LeavesAnOutlineOpen)
     WhiteCanvas canvas(30, 20);
     DisplayList list;
     list.Outline({{4, 12}, {4, 3}, {14, 3}, {14, 12}});
-    PaintDisplayList(canvas.Dc(), list);
+    Paint(canvas, list);
     EXPECT_EQ(canvas.At(4, 12), kBlackPixel);
     EXPECT_EQ(canvas.At(9, 3), kBlackPixel);
     EXPECT_EQ(canvas.At(14, 11), kBlackPixel);
@@ -95,7 +100,7 @@ TEST(GdiPainter, CoversWhatWasDrawnBefore)
     DisplayList list;
     list.Rect(kRed, 0, 0, 10, 10);
     list.Rect(kGreen, 5, 5, 15, 15);
-    PaintDisplayList(canvas.Dc(), list);
+    Paint(canvas, list);
     EXPECT_EQ(canvas.At(4, 4), kRedPixel);
     EXPECT_EQ(canvas.At(7, 7), kGreenPixel);
 }
@@ -105,7 +110,7 @@ CRect DrawnText(TextAlign align, const std::string& text)
     WhiteCanvas canvas(200, 60);
     DisplayList list;
     list.Text(100, 20, align, text);
-    PaintDisplayList(canvas.Dc(), list);
+    Paint(canvas, list);
     return canvas.Drawn();
 }
 
@@ -146,9 +151,16 @@ TEST(GdiPainter, WritesATextInItsColourWithoutPaintingItsGround)
     DisplayList list;
     list.Rect(kGreen, 0, 0, 100, 40);
     list.Text(10, 10, TextAlign::Left, "HHH", kRed);
-    PaintDisplayList(canvas.Dc(), list);
+    Paint(canvas, list);
     EXPECT_GT(canvas.Count(kRedPixel), 10);
     EXPECT_EQ(canvas.Count(kWhitePixel), 0);
+}
+
+void ExpectTheSame(const WhiteCanvas& canvas, const WhiteCanvas& expected)
+{
+    for (int y = 0; y < expected.Height(); ++y)
+        for (int x = 0; x < expected.Width(); ++x)
+            ASSERT_EQ(canvas.At(x, y), expected.At(x, y)) << x << ' ' << y;
 }
 
 // Cyrillic letters: two bytes each in UTF-8, one unit each in UTF-16.
@@ -159,11 +171,156 @@ TEST(GdiPainter, WritesLettersBeyondAscii)
     WhiteCanvas canvas(100, 40);
     DisplayList list;
     list.Text(10, 10, TextAlign::Left, "\xD0\x96\xD0\xA8");
-    PaintDisplayList(canvas.Dc(), list);
+    Paint(canvas, list);
     ASSERT_FALSE(expected.Drawn().IsRectEmpty());
-    for (int y = 0; y < 40; ++y)
-        for (int x = 0; x < 100; ++x)
-            ASSERT_EQ(canvas.At(x, y), expected.At(x, y)) << x << ' ' << y;
+    ExpectTheSame(canvas, expected);
+}
+
+/// A text in a picture 200 pixels wide.
+class GdiPainterAtTheSides : public testing::Test
+{
+protected:
+    static constexpr int kWidth = 200;
+    static constexpr int kTop = 10;
+
+    /// The text alone, with its left end in a column.
+    static void ExpectAt(int left, const WhiteCanvas& canvas, const std::string& text)
+    {
+        WhiteCanvas expected(canvas.Width(), canvas.Height());
+        ::TextOutA(expected.Dc().GetSafeHdc(), left, kTop, text.c_str(), static_cast<int>(text.size()));
+        ASSERT_FALSE(expected.Drawn().IsRectEmpty());
+        ExpectTheSame(canvas, expected);
+    }
+
+    static void ExpectAt(int left, int x, TextAlign align, const std::string& text, int width = kWidth)
+    {
+        SCOPED_TRACE(text);
+        WhiteCanvas canvas(width, 40);
+        DisplayList list;
+        list.Text(x, kTop, align, text);
+        Paint(canvas, list);
+        ExpectAt(left, canvas, text);
+    }
+
+    static SIZE SizeOf(const std::string& text)
+    {
+        WhiteCanvas canvas(1, 1);
+        SIZE size{};
+        ::GetTextExtentPoint32A(canvas.Dc().GetSafeHdc(), text.c_str(), static_cast<int>(text.size()), &size);
+        return size;
+    }
+
+    /// Green, a black line and the text over it.
+    static void PaintOverALine(WhiteCanvas& canvas, int x, TextAlign align, const std::string& text)
+    {
+        DisplayList list;
+        list.Rect(kGreen, 0, 0, kWidth, 40);
+        list.Line(x, 0, x, 40);
+        list.Text(x, kTop, align, text);
+        Paint(canvas, list);
+    }
+
+    static int WhitePixelsOver(int x, TextAlign align, const std::string& text)
+    {
+        WhiteCanvas canvas(kWidth, 40);
+        PaintOverALine(canvas, x, align, text);
+        return canvas.Count(kWhitePixel);
+    }
+
+    const std::string m_text = "1249.8755";
+    const int m_extent = SizeOf(m_text).cx;
+};
+
+TEST_F(GdiPainterAtTheSides, ATextBeyondTheLeftSideMovesToIt)
+{
+    ExpectAt(0, m_extent - 1, TextAlign::Right, m_text);
+    ExpectAt(0, 5, TextAlign::Right, m_text);
+    ExpectAt(0, -1, TextAlign::Left, m_text);
+    ExpectAt(0, 5, TextAlign::Center, m_text);
+    ExpectAt(0, -500, TextAlign::Center, m_text);
+}
+
+TEST_F(GdiPainterAtTheSides, ATextBeyondTheRightSideMovesToIt)
+{
+    const int last = kWidth - m_extent;
+    ExpectAt(last, last + 1, TextAlign::Left, m_text);
+    ExpectAt(last, kWidth - 5, TextAlign::Left, m_text);
+    ExpectAt(last, kWidth + 1, TextAlign::Right, m_text);
+    ExpectAt(last, kWidth - 5, TextAlign::Center, m_text);
+    ExpectAt(last, 100000, TextAlign::Left, m_text);
+}
+
+TEST_F(GdiPainterAtTheSides, ATextWiderThanThePictureKeepsItsBeginning)
+{
+    const int width = m_extent - 10;
+    for (const TextAlign align : {TextAlign::Left, TextAlign::Center, TextAlign::Right})
+        ExpectAt(0, width / 2, align, m_text, width);
+}
+
+TEST_F(GdiPainterAtTheSides, ATextThatReachesTheSideStays)
+{
+    ExpectAt(0, 0, TextAlign::Left, m_text);
+    ExpectAt(kWidth - m_extent, kWidth - m_extent, TextAlign::Left, m_text);
+}
+
+TEST_F(GdiPainterAtTheSides, AMovedTextHasAWhiteGroundOverALine)
+{
+    const struct
+    {
+        int x;
+        TextAlign align;
+        int left;
+    } cases[] = {{40, TextAlign::Right, 0},
+                 {kWidth - 40, TextAlign::Left, kWidth - m_extent},
+                 {20, TextAlign::Center, 0},
+                 {kWidth - 20, TextAlign::Center, kWidth - m_extent}};
+    ASSERT_GT(m_extent, 40);
+    WhiteCanvas alone(m_extent, 40);
+    ::TextOutA(alone.Dc().GetSafeHdc(), 0, kTop, m_text.c_str(), static_cast<int>(m_text.size()));
+    for (const auto& moved : cases)
+    {
+        SCOPED_TRACE(moved.x);
+        WhiteCanvas canvas(kWidth, 40);
+        ::SetBkColor(canvas.Dc().GetSafeHdc(), RGB(1, 2, 3));
+        PaintOverALine(canvas, moved.x, moved.align, m_text);
+        const int height = SizeOf(m_text).cy;
+        for (int y = kTop; y < kTop + height; ++y)
+            for (int x = 0; x < m_extent; ++x)
+                ASSERT_EQ(canvas.At(moved.left + x, y), alone.At(x, y)) << x << ' ' << y;
+        EXPECT_EQ(canvas.At(moved.x, kTop - 1), kBlackPixel) << "the line above the text";
+        EXPECT_EQ(canvas.At(moved.left + 1, kTop - 1), kGreenPixel);
+        EXPECT_EQ(canvas.At(kWidth - 1 - moved.left, kTop), kGreenPixel) << "the other side";
+        EXPECT_LE(canvas.Count(kWhitePixel), m_extent * height);
+    }
+}
+
+TEST_F(GdiPainterAtTheSides, ATextWithinThePictureHasNoGround)
+{
+    EXPECT_EQ(WhitePixelsOver(kWidth - m_extent, TextAlign::Left, m_text), 0);
+    EXPECT_EQ(WhitePixelsOver(m_extent, TextAlign::Right, m_text), 0);
+    EXPECT_EQ(WhitePixelsOver(kWidth / 2, TextAlign::Center, m_text), 0);
+}
+
+TEST_F(GdiPainterAtTheSides, ATextAfterAMovedOneHasNoGround)
+{
+    WhiteCanvas canvas(kWidth, 40);
+    DisplayList list;
+    list.Text(5, 0, TextAlign::Right, m_text);
+    list.Rect(kGreen, 0, 0, kWidth, 40);
+    list.Text(kWidth / 2, kTop, TextAlign::Center, m_text);
+    Paint(canvas, list);
+    EXPECT_GT(canvas.Count(kBlackPixel), 10);
+    EXPECT_EQ(canvas.Count(kWhitePixel), 0);
+}
+
+TEST_F(GdiPainterAtTheSides, AMovedTextKeepsItsColour)
+{
+    WhiteCanvas canvas(kWidth, 40);
+    DisplayList list;
+    list.Text(5, kTop, TextAlign::Right, m_text, kRed);
+    Paint(canvas, list);
+    EXPECT_GT(canvas.Count(kRedPixel), 10);
+    EXPECT_EQ(canvas.Count(kBlackPixel), 0);
 }
 
 TEST(GdiPainter, PutsColoursAndAlignmentOfTheContextBack)
@@ -175,8 +332,9 @@ TEST(GdiPainter, PutsColoursAndAlignmentOfTheContextBack)
     ::SetTextAlign(dc, TA_BASELINE | TA_RIGHT);
     DisplayList list;
     list.Text(10, 10, TextAlign::Center, "H", kRed);
+    list.Text(-10, 10, TextAlign::Left, "H", kRed);
     list.Rect(kGreen, 0, 0, 5, 5);
-    PaintDisplayList(canvas.Dc(), list);
+    Paint(canvas, list);
     EXPECT_EQ(::GetTextColor(dc), RGB(1, 2, 3));
     EXPECT_EQ(::GetBkColor(dc), RGB(4, 5, 6));
     EXPECT_EQ(::GetTextAlign(dc), static_cast<UINT>(TA_BASELINE | TA_RIGHT));
@@ -197,10 +355,10 @@ DisplayList OneOfEachPrimitive()
 TEST(GdiPainter, LeavesNoGraphicsObjectsBehind)
 {
     WhiteCanvas canvas(30, 20);
-    PaintDisplayList(canvas.Dc(), OneOfEachPrimitive());
+    Paint(canvas, OneOfEachPrimitive());
     const int before = GdiObjectCount();
     for (int i = 0; i < 20; ++i)
-        PaintDisplayList(canvas.Dc(), OneOfEachPrimitive());
+        Paint(canvas, OneOfEachPrimitive());
     EXPECT_EQ(GdiObjectCount(), before);
 }
 
@@ -209,7 +367,7 @@ TEST(GdiPainter, GoesOnWithoutFillingsWhenNoBrushCanBeMade)
     WhiteCanvas canvas(30, 20);
     {
         const GdiExhaustion exhaustion;
-        EXPECT_NO_THROW(PaintDisplayList(canvas.Dc(), OneOfEachPrimitive()));
+        EXPECT_NO_THROW(Paint(canvas, OneOfEachPrimitive()));
     }
     EXPECT_EQ(canvas.At(20, 15), kBlackPixel) << "the last primitive";
 }
@@ -217,7 +375,7 @@ TEST(GdiPainter, GoesOnWithoutFillingsWhenNoBrushCanBeMade)
 TEST(GdiPainter, PaintsNothingForAnEmptyList)
 {
     WhiteCanvas canvas(30, 20);
-    PaintDisplayList(canvas.Dc(), DisplayList{});
+    Paint(canvas, DisplayList{});
     EXPECT_TRUE(canvas.Drawn().IsRectEmpty());
 }
 

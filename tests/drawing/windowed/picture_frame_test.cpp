@@ -1,8 +1,11 @@
 #include "drawing/picture_frame.h"
 
+#include <functional>
+
 #include <gtest/gtest.h>
 
 #include "drawing/display_list.h"
+#include "drawing/gdi_painter.h"
 #include "drawing/kind_bitmap.h"
 #include "gdi_exhaustion.h"
 #include "platform/moduleskin/module_skin.h"
@@ -158,6 +161,51 @@ TEST_F(PictureFrame, ShowsADrawingOnWhite)
     EXPECT_EQ(At(50, 40), RGB(255, 255, 255));
     EXPECT_EQ(At(0, 0), RGB(255, 255, 255));
     EXPECT_EQ(At(kWidth - 1, kHeight - 1), RGB(255, 255, 255));
+}
+
+/// What a drawing is in a font, on a canvas of the frame's size.
+void ExpectInFont(const DisplayList& drawing, HGDIOBJ font, const std::function<COLORREF(int, int)>& shownAt)
+{
+    WhiteCanvas expected(kWidth, kHeight);
+    const ScopedSelect selected(expected.Dc(), font);
+    PaintDisplayList(expected.Dc(), drawing, kWidth);
+    ASSERT_GT(expected.Count(RGB(0, 0, 0)), 10);
+    for (int y = 0; y < kHeight; ++y)
+        for (int x = 0; x < kWidth; ++x)
+            ASSERT_EQ(shownAt(x, y), expected.At(x, y)) << x << ' ' << y;
+}
+
+TEST_F(PictureFrame, WritesTheTextsOfADrawingInTheControlsFont)
+{
+    DisplayList drawing;
+    drawing.Text(5, 5, TextAlign::Left, "1249.8755");
+    LOGFONTW description{};
+    description.lfHeight = -20;
+    description.lfQuality = NONANTIALIASED_QUALITY;
+    ::lstrcpynW(description.lfFaceName, L"Tahoma", LF_FACESIZE);
+    const HFONT font = ::CreateFontIndirectW(&description);
+    ::SendMessageW(m_frame.m_hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    m_frame.ShowDrawing(drawing);
+    ExpectInFont(drawing, font, [this](int x, int y) { return At(x, y); });
+    ::SendMessageW(m_frame.m_hWnd, WM_SETFONT, 0, FALSE);
+    ::DeleteObject(font);
+}
+
+TEST_F(PictureFrame, WritesTheTextsOfADrawingInTheSystemFontWhenTheControlHasNone)
+{
+    DisplayList drawing;
+    drawing.Text(5, 5, TextAlign::Left, "1249.8755");
+    m_frame.ShowDrawing(drawing);
+    ExpectInFont(drawing, ::GetStockObject(SYSTEM_FONT), [this](int x, int y) { return At(x, y); });
+}
+
+TEST_F(PictureFrame, KeepsTheTextsOfADrawingWithinItsWidth)
+{
+    DisplayList outside;
+    outside.Text(kWidth - 3, 5, TextAlign::Left, "1249");
+    outside.Text(3, 30, TextAlign::Right, "1249");
+    m_frame.ShowDrawing(outside);
+    ExpectInFont(outside, ::GetStockObject(SYSTEM_FONT), [this](int x, int y) { return At(x, y); });
 }
 
 TEST_F(PictureFrame, BringsADrawingBackWhenItIsUncovered)

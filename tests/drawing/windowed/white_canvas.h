@@ -31,6 +31,8 @@ public:
     WhiteCanvas& operator=(const WhiteCanvas&) = delete;
 
     CDC& Dc() { return m_dc; }
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
     COLORREF At(int x, int y) const { return ::GetPixel(m_dc.GetSafeHdc(), x, y); }
 
     /// How many pixels have a colour.
