@@ -23,9 +23,12 @@ public:
     bool wantPostPaint = false;
     bool wantPostDraw = false;
     CFont* font = nullptr;
-    COLORREF text = CLR_DEFAULT;
-    COLORREF back = CLR_DEFAULT;
+    COLORREF itemText = CLR_DEFAULT;
+    COLORREF itemBack = CLR_DEFAULT;
+    COLORREF subItemText = CLR_DEFAULT;
+    COLORREF subItemBack = CLR_DEFAULT;
     HGDIOBJ fontInPostDraw = nullptr;
+    std::vector<HDC> drawnOn;  // by the hooks that draw
 
     // The places of the hooks in the table of virtual functions, in bytes.
     static std::vector<std::ptrdiff_t> HookPlaces();
@@ -33,21 +36,38 @@ public:
 
 protected:
     bool WantControlDraw() override { return Ran("WantControlDraw", wantDraw); }
-    bool DrawControl(CDC&) override { return Ran("DrawControl", skips); }
+    bool DrawControl(CDC& dc) override
+    {
+        drawnOn.push_back(dc.GetSafeHdc());
+        return Ran("DrawControl", skips);
+    }
     bool WantItemNotify() override { return Ran("WantItemNotify", wantParts); }
     bool WantPostPaintNotify() override { return Ran("WantPostPaintNotify", wantPostPaint); }
     bool WantControlPostDraw() override { return Ran("WantControlPostDraw", wantPostDraw); }
-    void PostDrawControl(CDC&) override { Ran("PostDrawControl", true); }
+    void PostDrawControl(CDC& dc) override
+    {
+        drawnOn.push_back(dc.GetSafeHdc());
+        Ran("PostDrawControl", true);
+    }
     CFont* ItemFont(int item, UINT state, LPARAM data) override
     {
         Ran("ItemFont", item, state, data);
         return font;
     }
-    COLORREF ItemTextColour(int, UINT, LPARAM) override { return text; }
-    COLORREF ItemBackColour(int, UINT, LPARAM) override { return back; }
-    bool WantItemDraw() override { return Ran("WantItemDraw", wantDraw); }
-    bool PaintItem(CDC&, int item, UINT state, LPARAM data) override
+    COLORREF ItemTextColour(int item, UINT state, LPARAM data) override
     {
+        Ran("ItemTextColour", item, state, data);
+        return itemText;
+    }
+    COLORREF ItemBackColour(int item, UINT state, LPARAM data) override
+    {
+        Ran("ItemBackColour", item, state, data);
+        return itemBack;
+    }
+    bool WantItemDraw() override { return Ran("WantItemDraw", wantDraw); }
+    bool PaintItem(CDC& dc, int item, UINT state, LPARAM data) override
+    {
+        drawnOn.push_back(dc.GetSafeHdc());
         Ran("PaintItem", item, state, data);
         return skips;
     }
@@ -56,6 +76,7 @@ protected:
     bool WantItemPostDraw() override { return Ran("WantItemPostDraw", wantPostDraw); }
     void PostPaintItem(CDC& dc, int item, UINT state, LPARAM data) override
     {
+        drawnOn.push_back(dc.GetSafeHdc());
         Ran("PostPaintItem", item, state, data);
         fontInPostDraw = ::GetCurrentObject(dc.GetSafeHdc(), OBJ_FONT);
     }
@@ -64,11 +85,20 @@ protected:
         Ran("SubItemFont" + std::to_string(subItem), item, state, data);
         return font;
     }
-    COLORREF SubItemTextColour(int, int, UINT, LPARAM) override { return text; }
-    COLORREF SubItemBackColour(int, int, UINT, LPARAM) override { return back; }
-    bool WantSubItemDraw() override { return Ran("WantSubItemDraw", wantDraw); }
-    bool PaintSubItem(CDC&, int item, int subItem, UINT state, LPARAM data) override
+    COLORREF SubItemTextColour(int item, int subItem, UINT state, LPARAM data) override
     {
+        Ran("SubItemTextColour" + std::to_string(subItem), item, state, data);
+        return subItemText;
+    }
+    COLORREF SubItemBackColour(int item, int subItem, UINT state, LPARAM data) override
+    {
+        Ran("SubItemBackColour" + std::to_string(subItem), item, state, data);
+        return subItemBack;
+    }
+    bool WantSubItemDraw() override { return Ran("WantSubItemDraw", wantDraw); }
+    bool PaintSubItem(CDC& dc, int item, int subItem, UINT state, LPARAM data) override
+    {
+        drawnOn.push_back(dc.GetSafeHdc());
         Ran("PaintSubItem" + std::to_string(subItem), item, state, data);
         return skips;
     }
@@ -76,6 +106,7 @@ protected:
     bool WantSubItemPostDraw() override { return Ran("WantSubItemPostDraw", wantPostDraw); }
     void PostPaintSubItem(CDC& dc, int item, int subItem, UINT state, LPARAM data) override
     {
+        drawnOn.push_back(dc.GetSafeHdc());
         Ran("PostPaintSubItem" + std::to_string(subItem), item, state, data);
         fontInPostDraw = ::GetCurrentObject(dc.GetSafeHdc(), OBJ_FONT);
     }
@@ -214,6 +245,7 @@ TEST(CustomDrawHooks, LeaveEverythingToTheListUnlessOverridden)
     EXPECT_EQ(drawn.Stage(CDDS_ITEMPOSTPAINT), CDRF_DODEFAULT);
     EXPECT_EQ(drawn.Stage(kSubItemPrePaint), CDRF_DODEFAULT);
     EXPECT_EQ(drawn.record.clrText, 0xFF000000);
+    EXPECT_EQ(drawn.record.clrTextBk, 0xFF000000);
     EXPECT_EQ(drawn.Stage(kSubItemPostPaint), CDRF_DODEFAULT);
 }
 
@@ -289,8 +321,8 @@ TEST_F(CustomDraw, ItemPrePaintRunsItsHooksWithItemStateAndData)
 {
     list.wantDraw = true;
     EXPECT_EQ(drawn.Stage(CDDS_ITEMPREPAINT), 0);
-    EXPECT_EQ(list.ran, (Ran{"ItemFont 3 5 7", "WantItemDraw", "PaintItem 3 5 7", "WantSubItemNotify",
-                             "WantItemPostPaintNotify"}));
+    EXPECT_EQ(list.ran, (Ran{"ItemFont 3 5 7", "ItemTextColour 3 5 7", "ItemBackColour 3 5 7", "WantItemDraw",
+                             "PaintItem 3 5 7", "WantSubItemNotify", "WantItemPostPaintNotify"}));
 }
 
 TEST_F(CustomDraw, ItemPrePaintAnswersWithTheFlagsOfItsHooks)
@@ -304,16 +336,29 @@ TEST_F(CustomDraw, ItemPrePaintAnswersWithTheFlagsOfItsHooks)
     EXPECT_EQ(drawn.Stage(CDDS_ITEMPREPAINT), 0x34);
 }
 
-TEST_F(CustomDraw, ColoursGoIntoTheRecord)
+TEST_F(CustomDraw, ColoursOfTheStageGoIntoTheRecord)
 {
-    list.text = RGB(10, 20, 30);
-    list.back = RGB(40, 50, 60);
-    for (const DWORD stage : {static_cast<DWORD>(CDDS_ITEMPREPAINT), kSubItemPrePaint})
-    {
+    list.itemText = RGB(10, 20, 30);
+    list.itemBack = RGB(40, 50, 60);
+    list.subItemText = RGB(70, 80, 90);
+    list.subItemBack = RGB(100, 110, 120);
+    drawn.Stage(CDDS_ITEMPREPAINT);
+    EXPECT_EQ(drawn.record.clrText, RGB(10, 20, 30));
+    EXPECT_EQ(drawn.record.clrTextBk, RGB(40, 50, 60));
+    drawn.Stage(kSubItemPrePaint);
+    EXPECT_EQ(drawn.record.clrText, RGB(70, 80, 90));
+    EXPECT_EQ(drawn.record.clrTextBk, RGB(100, 110, 120));
+}
+
+TEST_F(CustomDraw, HooksThatDrawGetTheContextOfTheRecord)
+{
+    list.wantDraw = true;
+    list.wantPostDraw = true;
+    for (const DWORD stage :
+         {static_cast<DWORD>(CDDS_PREPAINT), static_cast<DWORD>(CDDS_POSTPAINT), static_cast<DWORD>(CDDS_ITEMPREPAINT),
+          static_cast<DWORD>(CDDS_ITEMPOSTPAINT), kSubItemPrePaint, kSubItemPostPaint})
         drawn.Stage(stage);
-        EXPECT_EQ(drawn.record.clrText, RGB(10, 20, 30));
-        EXPECT_EQ(drawn.record.clrTextBk, RGB(40, 50, 60));
-    }
+    EXPECT_EQ(list.drawnOn, std::vector<HDC>(6, drawn.screen));
 }
 
 TEST_F(CustomDraw, ItemFontIsSelectedAndForcesThePostPaintStage)
@@ -369,8 +414,8 @@ TEST_F(CustomDraw, SubItemPrePaintRunsItsHooks)
 {
     list.wantDraw = true;
     EXPECT_EQ(drawn.Stage(kSubItemPrePaint, 2), 0);
-    EXPECT_EQ(list.ran,
-              (Ran{"SubItemFont2 3 5 7", "WantSubItemDraw", "PaintSubItem2 3 5 7", "WantSubItemPostPaintNotify"}));
+    EXPECT_EQ(list.ran, (Ran{"SubItemFont2 3 5 7", "SubItemTextColour2 3 5 7", "SubItemBackColour2 3 5 7",
+                             "WantSubItemDraw", "PaintSubItem2 3 5 7", "WantSubItemPostPaintNotify"}));
 }
 
 TEST_F(CustomDraw, SubItemPrePaintAnswersWithTheFlagsOfItsHooks)
