@@ -236,6 +236,65 @@ TEST_F(GridVisibility, RowBelowIsScrolledIn)
     EXPECT_GT(cell.top, 0);
 }
 
+TEST_F(GridVisibility, RowCutOffAtTheBottomIsEnoughOnlyWhenAsked)
+{
+    for (int row = 0; row < 40; ++row)
+        window.AddTop(L"V");
+    const RowKey cutOff = grid.RowAtIndex(grid.GetCountPerPage())->Key();
+    CRect client;
+    grid.GetClientRect(&client);
+    ASSERT_LT(grid.GetCellRect(cutOff, 0).top, client.bottom);
+    ASSERT_GT(grid.GetCellRect(cutOff, 0).bottom, client.bottom);
+    grid.MakeCellVisible(cutOff, 0, true);
+    EXPECT_EQ(grid.GetTopIndex(), 0);
+    grid.MakeCellVisible(cutOff, 0, false);
+    EXPECT_EQ(grid.GetTopIndex(), 1);
+    EXPECT_LE(grid.GetCellRect(cutOff, 0).bottom, client.bottom);
+}
+
+TEST_F(GridVisibility, RowOutOfSightIsScrolledInAlsoWhenPartlyVisibleIsEnough)
+{
+    for (int row = 0; row < 40; ++row)
+        window.AddTop(L"V");
+    const RowKey last = window.AddTop(L"W");
+    CRect client;
+    grid.GetClientRect(&client);
+    ASSERT_GT(grid.GetCellRect(last, 0).top, client.bottom);
+    grid.MakeCellVisible(last, 0, true);
+    EXPECT_LT(grid.GetCellRect(last, 0).top, client.bottom);
+}
+
+TEST_F(GridVisibility, EditorOfEachKindOpensInSight)
+{
+    constexpr std::pair<std::int32_t, int> kKinds[] = {{kCellEdit, 301}, {kCellList, 302}, {kCellButton, 303}};
+    window.entries = {{L"one", 1}};
+    grid.InsertFColumn(3, L"wide", LVCFMT_LEFT, 1500, false);
+    for (int row = 0; row < 40; ++row)
+        window.AddTop(L"V");
+    CRect client;
+    grid.GetClientRect(&client);
+    CRect header;
+    ::GetWindowRect(ListView_GetHeader(grid.GetSafeHwnd()), &header);
+    for (const auto& [kind, id] : kKinds)
+    {
+        SCOPED_TRACE(kind);
+        grid.SetCellKind(b, 1, kCellText);
+        grid.SetFocusCell(b, 1, false);
+        grid.SetCellKind(b, 1, kind);
+        grid.Scroll(CSize(500, 20 * grid.GetCellRect(b, 1).Height()));
+        ASSERT_LT(grid.GetCellRect(b, 1).right, 0);
+        ASSERT_LT(grid.GetCellRect(b, 1).bottom, 0);
+        ASSERT_TRUE(grid.OpenEditor());
+        CRect place;
+        ::GetWindowRect(Editor(id), &place);
+        grid.ScreenToClient(&place);
+        EXPECT_GE(place.left, 0);
+        EXPECT_LE(place.right, client.right);
+        EXPECT_GE(place.top, header.Height());
+        EXPECT_LE(place.bottom, client.bottom);
+    }
+}
+
 TEST_F(GridVisibility, CellRectangleFollowsTheShownOrderOfTheColumns)
 {
     int order[] = {2, 0, 1};

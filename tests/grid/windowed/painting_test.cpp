@@ -207,6 +207,18 @@ TEST_F(GridPainting, ExpandImageFollowsTheState)
     EXPECT_EQ(Middle(t, 0, 12), collapsed);
 }
 
+TEST_F(GridPainting, ExpandImageComesWithTheFirstChildAndGoesWithTheLast)
+{
+    EXPECT_NE(Middle(u, 0, 12), collapsed);
+    const RowKey first = window.AddChild(u, L"C");
+    const RowKey second = window.AddChild(u, L"D");
+    EXPECT_EQ(Middle(u, 0, 12), collapsed);
+    grid.DeleteRow(first);
+    EXPECT_EQ(Middle(u, 0, 12), collapsed);
+    grid.DeleteRow(second);
+    EXPECT_NE(Middle(u, 0, 12), collapsed);
+}
+
 // The image is 16 wide: 5 to 21 within the 20 pixels kept for it.
 TEST_F(GridPainting, ExpandImageBeginsFivePixelsIn)
 {
@@ -285,6 +297,17 @@ TEST_F(GridPainting, CheckBoxShowsTheImageOfItsState)
     EXPECT_EQ(Middle(u, 1, 16), window_);
 }
 
+TEST_F(GridPainting, CheckBoxHasAFrameInTheStateWithoutAnImage)
+{
+    grid.SetCellText(u, 1, L"");
+    grid.SetCellKind(u, 1, kCellCheckBox);
+    grid.SetCheckImages(u, 1, 3, -1);
+    EXPECT_EQ(TextSpan(u, 1, window_), (std::pair{2, 17}));
+    EXPECT_EQ(Middle(u, 1, 10), window_);
+    grid.SetCellChecked(u, 1, true);
+    EXPECT_EQ(Middle(u, 1, 10), Colour{kCheckedColour});
+}
+
 TEST_F(GridPainting, CellImageMovesItsText)
 {
     const int before = TextSpan(u, 2, window_).first;
@@ -303,11 +326,21 @@ TEST_F(GridPainting, TextStopsShortOfTheButton)
     EXPECT_GT(TextSpan(u, 2, window_).second, 70);
     grid.SetCellKind(u, 2, kCellButton);
     grid.SetFocusCell(u, 2, false);
-    ASSERT_TRUE(grid.HasEditor());
-    Paint();
-    const CRect cell = grid.GetCellRect(u, 2);
-    for (int y = 2; y < cell.Height() - 2; ++y)
-        EXPECT_EQ(PixelAt(cell.right - cell.Height() - 2, cell.top + y), kFocusColour) << y;
+    const auto expectRoom = [this] {
+        ASSERT_TRUE(grid.HasEditor());
+        Paint();
+        const CRect cell = grid.GetCellRect(u, 2);
+        for (int y = 2; y < cell.Height() - 2; ++y)
+            EXPECT_EQ(PixelAt(cell.right - cell.Height() - 2, cell.top + y), kFocusColour) << y;
+    };
+    expectRoom();
+    PressKey(VK_ESCAPE);  // opens it anew
+    expectRoom();
+    PressKey(VK_SPACE);  // ends it
+    ASSERT_FALSE(grid.HasEditor());
+    EXPECT_GT(TextSpan(u, 2, kFocusColour).second, 70);
+    ASSERT_TRUE(grid.OpenEditor());
+    expectRoom();
 }
 
 TEST_F(GridPainting, BoldRowHasMoreInk)
