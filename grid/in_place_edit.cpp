@@ -47,11 +47,11 @@ int CInPlaceEdit::OnCreate(LPCREATESTRUCT create)
     SetFont(GetParent()->GetFont());
     SetMargins(kMargin, kMargin);
     SetWindowText(m_initialText);
+    // Either way the caret stands behind the text, and SetSel scrolls it into view.
     if (m_selectAll)
         SetSel(0, -1);
     else
         SetSel(m_initialText.GetLength(), m_initialText.GetLength());
-    SendMessage(EM_SCROLLCARET);
     m_cell.isMade = true;
     return 0;
 }

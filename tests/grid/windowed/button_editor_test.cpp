@@ -161,6 +161,33 @@ TEST_F(ButtonEditor, GrowsToItsTextAfterACharacter)
     EXPECT_GT(after.Width(), 3 * before.Width());
 }
 
+TEST_F(ButtonEditor, GrownWidthIsThatOfItsTextInTheGridsFontAndFivePixels)
+{
+    grid.SetFocusCell(a, 1, false);
+    const LargeGridFont font(grid);
+    grid.SetFocusCell(a, 2, false);
+    ::SetWindowTextW(Button(), L"wider than the button");
+    TypeText(L"x");
+    CRect client;
+    ::GetClientRect(Button(), &client);
+    EXPECT_EQ(client.Width(), font.WidthOf(L"wider than the button") + 5);
+}
+
+// A level of 20 pixels, 20 for an image and 5 of margin don't fit into 10.
+TEST_F(ButtonEditor, StandsBehindTheIndentationInAColumnNarrowerThanThat)
+{
+    const RowKey child = window.AddChild(a, L"C");
+    grid.SetCellKind(child, 0, kCellButton);
+    grid.ExpandRow(a);
+    grid.SetColumnWidth(0, 10);
+    grid.SetFocusCell(child, 0, false);
+    CRect place;
+    ::GetWindowRect(Button(), &place);
+    grid.ScreenToClient(&place);
+    EXPECT_EQ(place.right, 45);
+    EXPECT_EQ(place.Width(), grid.GetCellRect(child, 0).Height());
+}
+
 TEST_F(ButtonEditor, RowDeletedUnderItClosesItWithoutAPress)
 {
     const HWND button = Button();

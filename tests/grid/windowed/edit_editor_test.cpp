@@ -63,6 +63,28 @@ TEST_F(EditEditor, HasStyleAndFormatOfItsColumn)
     EXPECT_EQ(::GetFocus(), Edit());
 }
 
+TEST_F(EditEditor, IsNotCentredInALeftColumn)
+{
+    grid.SetCellKind(a, 2, kCellEdit);
+    grid.SetFocusCell(a, 2, false);
+    ASSERT_TRUE(grid.OpenEditor());
+    EXPECT_EQ(::GetWindowLongW(Edit(), GWL_STYLE) & (ES_CENTER | ES_RIGHT), 0);
+}
+
+TEST_F(EditEditor, EndOfALongTextIsInSightAtOnce)
+{
+    const CString text = L"0123456789012345678901234567890123456789";
+    grid.SetCellText(a, 1, text);
+    ASSERT_TRUE(grid.OpenEditor());
+    CRect client;
+    ::GetClientRect(Edit(), &client);
+    const auto last = static_cast<WPARAM>(text.GetLength() - 1);
+    const int x = static_cast<short>(LOWORD(::SendMessageW(Edit(), EM_POSFROMCHAR, last, 0)));
+    EXPECT_GE(x, 0);
+    EXPECT_LT(x, client.right);
+    EXPECT_LT(static_cast<short>(LOWORD(::SendMessageW(Edit(), EM_POSFROMCHAR, 0, 0))), 0);
+}
+
 TEST_F(EditEditor, BeginsWithTheWholeTextSelected)
 {
     ASSERT_TRUE(grid.OpenEditor());
@@ -254,6 +276,32 @@ TEST_F(EditEditor, ScrollingClosesIt)
     }
 }
 
+TEST_F(EditEditor, ScrollingGoesOnBehindIt)
+{
+    grid.InsertFColumn(3, L"wide", LVCFMT_LEFT, 900, false);
+    for (int row = 0; row < 40; ++row)
+        window.AddTop(L"V");
+    ASSERT_TRUE(grid.OpenEditor());
+    ASSERT_EQ(grid.GetCellRect(a, 1).left, 130);
+    grid.SendMessage(WM_HSCROLL, SB_LINERIGHT, 0);
+    EXPECT_LT(grid.GetCellRect(a, 1).left, 130);
+    ASSERT_TRUE(grid.OpenEditor());
+    ASSERT_EQ(grid.GetTopIndex(), 0);
+    grid.SendMessage(WM_VSCROLL, SB_LINEDOWN, 0);
+    EXPECT_EQ(grid.GetTopIndex(), 1);
+}
+
+TEST_F(EditEditor, DraggedColumnClosesIt)
+{
+    ASSERT_TRUE(grid.OpenEditor());
+    const HWND header = ListView_GetHeader(grid.GetSafeHwnd());
+    NMHEADER dragged{};
+    dragged.hdr = {header, static_cast<UINT_PTR>(::GetDlgCtrlID(header)), static_cast<UINT>(HDN_BEGINDRAG)};
+    dragged.iItem = 1;
+    grid.SendMessage(WM_NOTIFY, dragged.hdr.idFrom, reinterpret_cast<LPARAM>(&dragged));
+    EXPECT_FALSE(grid.HasEditor());
+}
+
 TEST_F(EditEditor, ColumnOfAnotherWidthClosesIt)
 {
     PressKey(VK_RETURN);
@@ -286,6 +334,16 @@ TEST_F(EditEditor, LongTextWidensItToTheGridsRightEdgeAndNoFurther)
     ::GetWindowRect(Edit(), &grown);
     grid.ScreenToClient(&grown);
     EXPECT_EQ(grown.right, client.right);
+}
+
+TEST_F(EditEditor, GrownWidthIsThatOfItsTextInTheGridsFontAndFivePixels)
+{
+    const LargeGridFont font(grid);
+    PressKey(VK_RETURN);
+    TypeText(L"0123456789012345");
+    CRect client;
+    ::GetClientRect(Edit(), &client);
+    EXPECT_EQ(client.Width(), font.WidthOf(L"0123456789012345") + 5);
 }
 
 TEST_F(EditEditor, WholeTextIsInSightAsLongAsItGrows)

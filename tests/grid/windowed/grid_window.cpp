@@ -208,6 +208,47 @@ void RightClick(const CWnd& grid, CPoint point)
     PostMouse(grid, point, {WM_RBUTTONDOWN, WM_RBUTTONUP});
 }
 
+void PickByMouse(HWND list, int entry)
+{
+    ::SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof(info);
+    EXPECT_TRUE(::GetComboBoxInfo(list, &info));
+    EXPECT_TRUE(::IsWindowVisible(info.hwndList));
+    CRect place;
+    ::SendMessageW(info.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
+    const CPoint point = place.CenterPoint();
+    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP})
+        ::PostMessageW(info.hwndList, message, message == WM_LBUTTONDOWN ? MK_LBUTTON : 0,
+                       MAKELPARAM(point.x, point.y));
+    PumpUntilIdle();
+}
+
+LargeGridFont::LargeGridFont(CFListCtrl& grid)
+    : m_grid(grid), m_former(reinterpret_cast<HFONT>(grid.SendMessage(WM_GETFONT)))
+{
+    LOGFONT description{};
+    description.lfHeight = -28;
+    description.lfWeight = FW_BOLD;
+    m_font.CreateFontIndirect(&description);
+    m_grid.SetFont(&m_font);
+}
+
+LargeGridFont::~LargeGridFont()
+{
+    m_grid.CloseEditor();
+    m_grid.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_former), TRUE);
+}
+
+int LargeGridFont::WidthOf(const wchar_t* text) const
+{
+    CClientDC dc(&m_grid);
+    const HGDIOBJ former = ::SelectObject(dc.GetSafeHdc(), m_font.GetSafeHandle());
+    const int width = dc.GetTextExtent(CString(text)).cx;
+    ::SelectObject(dc.GetSafeHdc(), former);
+    return width;
+}
+
 GridTest::GridTest()
 {
     grid.SetRowMode(false);

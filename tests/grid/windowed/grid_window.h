@@ -76,6 +76,27 @@ void LeftClick(const CWnd& grid, CPoint point);
 void DoubleClick(const CWnd& grid, CPoint point);
 void RightClick(const CWnd& grid, CPoint point);
 
+/// Opens an in-place list and clicks on an entry.
+void PickByMouse(HWND list, int entry);
+
+/// Gives a grid a font that is much larger than its own, until the end of a scope.
+class LargeGridFont
+{
+public:
+    explicit LargeGridFont(CFListCtrl& grid);
+    ~LargeGridFont();
+    LargeGridFont(const LargeGridFont&) = delete;
+    LargeGridFont& operator=(const LargeGridFont&) = delete;
+
+    /// Of a text in this font, pixels.
+    int WidthOf(const wchar_t* text) const;
+
+private:
+    CFListCtrl& m_grid;
+    HFONT m_former;
+    CFont m_font;
+};
+
 /// A grid of three columns: 0 "tree" 130 wide, 1 80 wide and centred, 2 80 wide; focus by cells.
 class GridTest : public testing::Test
 {

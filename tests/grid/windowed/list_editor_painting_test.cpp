@@ -130,7 +130,28 @@ TEST_F(ListEditorPainting, LongTextStopsShortOfTheArrow)
 TEST_F(ListEditorPainting, AnotherChoiceIsDrawnAtOnce)
 {
     Open(2);
-    const int former = SpanOf(&IsInk, kTextWidth).second;
+    const int former = SpanOf(&IsText, kTextWidth).second;
+    ASSERT_GE(former, 0);
     TypeText(L"M");  // chooses the entry that begins with it
-    EXPECT_GT(SpanOf(&IsInk, kTextWidth).second, former + 10);
+    EXPECT_GT(SpanOf(&IsText, kTextWidth).second, former + 10);
+    EXPECT_EQ(PixelAt(kTextWidth, kHeight / 2), kBack);
+    EXPECT_EQ(PixelAt(kTextWidth / 2, 1), kBack);
+    ExpectDottedEdge();
+}
+
+TEST_F(ListEditorPainting, TextOfABoldRowIsBold)
+{
+    const auto ink = [this] {
+        int pixels = 0;
+        for (int x = 0; x < kTextWidth; ++x)
+            for (int y = 0; y < kHeight; ++y)
+                pixels += IsText(PixelAt(x, y)) ? 1 : 0;
+        return pixels;
+    };
+    Open(2);
+    const int plain = ink();
+    ASSERT_GT(plain, 0);
+    grid.SetRowBold(row, true);
+    Open(2);
+    EXPECT_GT(ink(), plain * 5 / 4);
 }
