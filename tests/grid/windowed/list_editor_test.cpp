@@ -1,5 +1,6 @@
 #include "grid_window.h"
 #include "tests/support/framework_printers.h"
+#include "tests/support/message_box_guard.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/resource_count.h"
 
@@ -31,20 +32,6 @@ protected:
     }
     HWND List() const { return Editor(302); }
     bool IsDropped() const { return ::SendMessageW(List(), CB_GETDROPPEDSTATE, 0, 0) != 0; }
-    /// A click on an entry of the open drop-down part.
-    void PickByMouse(HWND list, int entry)
-    {
-        COMBOBOXINFO info{};
-        info.cbSize = sizeof(info);
-        ASSERT_TRUE(::GetComboBoxInfo(list, &info));
-        CRect place;
-        ::SendMessageW(info.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
-        const CPoint point = place.CenterPoint();
-        for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP})
-            ::PostMessageW(info.hwndList, message, message == WM_LBUTTONDOWN ? MK_LBUTTON : 0,
-                           MAKELPARAM(point.x, point.y));
-        PumpUntilIdle();
-    }
 
     RowKey a = window.AddTop(L"A");
     RowKey b = window.AddTop(L"B");
@@ -241,12 +228,55 @@ TEST_F(ListEditor, MinusFiveStoresNothingAndLeavesTheFocusInTheGrid)
 
 TEST_F(ListEditor, EntryPickedWithTheMouseCommitsAtOnce)
 {
-    const HWND list = OpenIt();
-    ::SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
-    ASSERT_TRUE(IsDropped());
-    PickByMouse(list, 2);
+    PickByMouse(OpenIt(), 2);
     EXPECT_EQ(window.TakeTold(), (Told{"1124 A 2 \"three\" extra=13", "1121 A 2 \"three\""}));
     EXPECT_EQ(grid.FindRow(a)->Text(2), L"three");
+}
+
+// The combo box is in the midst of its own work then.
+TEST_F(ListEditor, WindowStaysUntilTheMessageThatEndedItIsHandled)
+{
+    const HWND list = OpenIt();
+    bool existed = false;
+    window.onTold = [&](const NMFLISTCTRL& record) {
+        if (record.hdr.code == kGridEndList)
+            existed = ::IsWindow(list) != FALSE;
+    };
+    ::SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
+    ::SendMessageW(list, WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_TRUE(existed);
+    EXPECT_TRUE(::IsWindow(list));
+    PumpUntilIdle();
+    EXPECT_FALSE(::IsWindow(list) && list != List());
+}
+
+// A message box handles what was posted before.
+TEST_F(ListEditor, WindowStaysWhileTheParentShowsAMessage)
+{
+    for (const bool byMouse : {false, true})
+    {
+        SCOPED_TRACE(byMouse ? "mouse" : "key");
+        const HWND list = OpenIt();
+        bool exists = false;
+        window.onTold = [&](const NMFLISTCTRL& record) {
+            if (record.hdr.code != kGridEndList)
+                return;
+            ExpectMessageBox message;
+            window.MessageBox(L"message");
+            exists = ::IsWindow(list) != FALSE;
+        };
+        if (byMouse)
+            PickByMouse(list, 1);
+        else
+        {
+            PressKey(VK_RETURN);
+            PressKey(VK_RETURN);
+        }
+        EXPECT_TRUE(exists);
+        EXPECT_FALSE(::IsWindow(list));
+        window.onTold = nullptr;
+        grid.SetFocusCell(a, 1, true);
+    }
 }
 
 TEST_F(ListEditor, EscapeDoesNotCommit)
@@ -333,12 +363,36 @@ TEST_F(ListEditor, ArrowsAndPageKeysAreTheOpenLists)
     EXPECT_TRUE(window.TakeTold().empty());
 }
 
-TEST_F(ListEditor, LeftAndRightEndIt)
+// Column 2 is the last: to the right there is no cell to go to.
+TEST_F(ListEditor, LeftAndRightEndItWithoutCommit)
 {
-    OpenIt();
-    PressKey(VK_LEFT);
-    EXPECT_EQ(window.TakeTold(), (Told{"1116 A 1 \"A1\""}));
-    EXPECT_FALSE(grid.HasEditor());
+    for (const bool dropped : {false, true})
+        for (const UINT key : {VK_LEFT, VK_RIGHT})
+        {
+            SCOPED_TRACE(testing::Message() << "key " << key << (dropped ? ", open" : ", closed"));
+            const HWND list = OpenIt();
+            if (dropped)
+            {
+                PressKey(VK_RETURN);
+                PressKey(VK_DOWN);
+            }
+            PressKey(key);
+            EXPECT_EQ(window.TakeTold(), key == VK_LEFT ? Told{"1116 A 1 \"A1\""} : Told{});
+            EXPECT_EQ(grid.FindRow(a)->Text(2), L"A2");
+            EXPECT_FALSE(grid.HasEditor());
+            EXPECT_FALSE(::IsWindow(list));
+            grid.SetFocusCell(a, 1, true);
+        }
+}
+
+TEST_F(ListEditor, EscapeOnTheClosedListBringsItBack)
+{
+    const HWND former = OpenIt();
+    PressKey(VK_ESCAPE);
+    EXPECT_EQ(window.TakeTold(), (Told{"1121 A 2 \"A2\""}));
+    EXPECT_FALSE(::IsWindow(former) && former != List());
+    ASSERT_NE(List(), nullptr);
+    EXPECT_FALSE(IsDropped());
 }
 
 TEST_F(ListEditor, SpaceIsTheLists)

@@ -1,4 +1,5 @@
 #include "grid_window.h"
+#include "tests/support/message_box_guard.h"
 #include "tests/support/message_pump.h"
 
 #include <ostream>
@@ -15,6 +16,7 @@ struct Occasion
     UINT code;
     int column;              // of T, where the focus is before
     std::vector<UINT> keys;  // that lead to it
+    void (*then)(HWND editor) = nullptr;
 };
 
 struct Reaction
@@ -38,6 +40,13 @@ constexpr int kEditColumn = 1;
 constexpr int kListColumn = 2;
 constexpr int kButtonColumn = 3;
 
+void ReleaseOver(HWND button)
+{
+    for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP})
+        ::PostMessageW(button, message, 0, MAKELPARAM(5, 5));
+    PumpUntilIdle();
+}
+
 const Occasion kOccasions[] = {
     {"Expanded", kGridRowExpanded, 0, {VK_SUBTRACT, VK_ADD}},
     {"Collapsed", kGridRowCollapsed, 0, {VK_SUBTRACT}},
@@ -47,7 +56,9 @@ const Occasion kOccasions[] = {
     {"EndEdit", kGridEndEdit, kEditColumn, {VK_RETURN, VK_RETURN}},
     {"ListContents", kGridListContents, kEditColumn, {VK_RIGHT}},
     {"EndList", kGridEndList, kListColumn, {VK_RETURN, VK_RETURN}},
+    {"EndListByMouse", kGridEndList, kListColumn, {}, [](HWND list) { PickByMouse(list, 1); }},
     {"ButtonPressed", kGridButtonPressed, kButtonColumn, {VK_RETURN}},
+    {"ButtonReleased", kGridButtonPressed, kButtonColumn, {}, &ReleaseOver},
 };
 
 RowKey LastTopRow(const CFListCtrl& grid)
@@ -78,6 +89,11 @@ const Reaction kReactions[] = {
     {"CollapsesTheRow", [](GridWindow& window, RowKey told) { window.grid.CollapseRow(told); }},
     {"ExpandsTheRow", [](GridWindow& window, RowKey told) { window.grid.ExpandRow(told); }},
     {"SwitchesToRows", [](GridWindow& window, RowKey) { window.grid.SetRowMode(true); }},
+    {"ShowsAMessage",
+     [](GridWindow& window, RowKey) {
+         const ExpectMessageBox expected;
+         window.MessageBox(L"message");
+     }},
     {"TakesTheKeyboard", [](GridWindow& window, RowKey) { ::SetFocus(window.GetSafeHwnd()); }},
     {"OpensAnEdit",
      [](GridWindow& window, RowKey) {
@@ -103,10 +119,10 @@ int EditorWindows(HWND grid)
 }
 
 // T expanded with A and B, then U. Column 1 holds edit, column 2 list, column 3 button cells.
-class ParentReactions : public GridTest, public testing::WithParamInterface<std::tuple<Occasion, Reaction>>
+class ReactingParent : public GridTest
 {
 protected:
-    ParentReactions()
+    ReactingParent()
     {
         grid.InsertFColumn(3, L"button", LVCFMT_LEFT, 80, false);
         window.entries = {{L"one", 1}, {L"two", 2}};
@@ -120,10 +136,23 @@ protected:
         grid.ExpandRow(t);
     }
 
+    static void LeadTo(const Occasion& occasion)
+    {
+        for (const UINT key : occasion.keys)
+            PressKey(key);
+        if (occasion.then != nullptr)
+            occasion.then(::GetFocus());
+        PumpUntilIdle();
+    }
+
     RowKey t = window.AddTop(L"T");
     RowKey a = window.AddChild(t, L"A");
     RowKey b = window.AddChild(t, L"B");
     RowKey u = window.AddTop(L"U");
+};
+
+class ParentReactions : public ReactingParent, public testing::WithParamInterface<std::tuple<Occasion, Reaction>>
+{
 };
 }  // namespace
 
@@ -136,10 +165,8 @@ TEST_P(ParentReactions, LeaveTheGridInOrder)
         if (record.hdr.code == occasion.code && reactions++ == 0)
             reaction.act(window, record.rowKey);
     };
-    for (const UINT key : occasion.keys)
-        PressKey(key);
+    LeadTo(occasion);
     ASSERT_GT(reactions, 0);
-    PumpUntilIdle();
 
     EXPECT_TRUE(grid.FocusKey() == nullptr || grid.FocusRow() != nullptr);
     if (grid.GetSafeHwnd() == nullptr)
@@ -166,6 +193,51 @@ INSTANTIATE_TEST_SUITE_P(Everywhere, ParentReactions,
                          [](const testing::TestParamInfo<std::tuple<Occasion, Reaction>>& info) {
                              return std::string(std::get<0>(info.param).name) + std::get<1>(info.param).name;
                          });
+
+namespace
+{
+class MessageOfTheParent : public ReactingParent, public testing::WithParamInterface<Occasion>
+{
+protected:
+    /// What the grid tells after the focus came to T, and the editor that is open then; 0 for none.
+    std::pair<std::vector<std::string>, int> ToldAndOpenedOn(const Occasion& occasion, bool showsMessages)
+    {
+        grid.SetFocusCell(u, 0, true);
+        grid.SetCellText(t, kListColumn, L"T2");
+        grid.SetFocusCell(t, occasion.column, true);
+        window.TakeTold();
+        if (showsMessages)
+            window.onTold = [&](const NMFLISTCTRL& record) {
+                if (record.hdr.code == occasion.code)
+                    ShowMessage();
+            };
+        LeadTo(occasion);
+        window.onTold = nullptr;
+        return {window.TakeTold(), grid.HasEditor() ? ::GetDlgCtrlID(::GetFocus()) : 0};
+    }
+    void ShowMessage()
+    {
+        const HWND focus = ::GetFocus();
+        const ExpectMessageBox message;
+        window.MessageBox(L"message");
+        ::SetFocus(focus);  // as a dialog does when its message box is closed
+    }
+};
+}  // namespace
+
+TEST_P(MessageOfTheParent, ChangesNothingOfWhatIsToldAndOpened)
+{
+    const auto [toldWithout, openedWithout] = ToldAndOpenedOn(GetParam(), false);
+    grid.CloseEditor();
+    grid.ExpandRow(t);
+    const auto [told, opened] = ToldAndOpenedOn(GetParam(), true);
+    EXPECT_FALSE(told.empty());
+    EXPECT_EQ(told, toldWithout);
+    EXPECT_EQ(opened, openedWithout);
+}
+
+INSTANTIATE_TEST_SUITE_P(Everywhere, MessageOfTheParent, testing::ValuesIn(kOccasions),
+                         [](const testing::TestParamInfo<Occasion>& info) { return std::string(info.param.name); });
 
 namespace
 {
