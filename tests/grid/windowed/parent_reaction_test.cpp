@@ -294,7 +294,7 @@ TEST_F(ParentReaction, RowDeletedWhileItsEditorComesIntoViewGetsNone)
 {
     MakeItTellOfScrolling(grid);
     window.entries = {{L"one", 1}};
-    for (int row = 0; row < 40; ++row)
+    for (int row = 0; row < 20; ++row)
         window.AddTop(L"V");
     for (const UINT scrolled : {LVN_BEGINSCROLL, LVN_ENDSCROLL})
         for (const std::int32_t kind : {kCellEdit, kCellList, kCellButton})
@@ -328,7 +328,7 @@ TEST_F(ParentReaction, GridDestroyedWhileAnEditorComesIntoViewHasNone)
         MakeItTellOfScrolling(other.grid);
         other.grid.SetRowMode(false);
         other.grid.InsertFColumn(0, L"", LVCFMT_LEFT, 100, true);
-        for (int row = 0; row < 40; ++row)
+        for (int row = 0; row < 20; ++row)
             other.AddTop(L"V");
         const RowKey last = other.AddTop(L"W");
         other.grid.SetFocusCell(last, 0, false);
@@ -346,7 +346,7 @@ TEST_F(ParentReaction, GridDestroyedWhileAnEditorComesIntoViewHasNone)
 TEST_F(ParentReaction, RowDeletedWhileItIsExpandedIsNotToldAsExpanded)
 {
     MakeItTellOfScrolling(grid);
-    for (int row = 0; row < 40; ++row)
+    for (int row = 0; row < 20; ++row)
         window.AddTop(L"V");
     const RowKey last = window.AddTop(L"W");
     window.AddChild(last, L"X");
