@@ -110,6 +110,7 @@ private:
 
     static constexpr int kEndedByHost = 5;  // result of a child dialog that EndModal ended
 
+    void SetUp();
     void SetUpChainList();
     void SetUpClosingList();
     void SetMethod(std::int32_t method);

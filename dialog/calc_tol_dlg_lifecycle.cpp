@@ -1,5 +1,7 @@
 // The calculation dialog's window: creation, method, reset, end.
 
+#include <exception>
+
 #include "calc/chain_calculation.h"
 #include "diagram/weight_dlg.h"
 #include "dialog/calc_tol_dlg.h"
@@ -62,6 +64,25 @@ void EndIfOpen(CDialog* child, int result)
         child->EndDialog(result);
 }
 
+// Whether the action says so. What it throws ends here: no exception crosses the interface.
+template <typename Action>
+bool Succeeds(Action action)
+{
+    try
+    {
+        return action();
+    }
+    catch (CException* exception)
+    {
+        exception->Delete();
+        return false;
+    }
+    catch (const std::exception&)
+    {
+        return false;
+    }
+}
+
 }  // namespace
 
 BOOL CCalcTolDlg::Create(CWnd* parent)
@@ -70,7 +91,7 @@ BOOL CCalcTolDlg::Create(CWnd* parent)
         return FALSE;
     const CModuleSkin skin(kModuleCalcTol);
     m_hostWindow = parent;
-    if (!CDialog::Create(IDD_CALC_TOL, parent))
+    if (!Succeeds([&] { return CDialog::Create(IDD_CALC_TOL, parent) != FALSE; }))
         return FALSE;
     ShowWindow(SW_SHOW);
     return TRUE;
@@ -81,16 +102,27 @@ void CCalcTolDlg::SetFileName(CString name)
     m_fileName = name;
 }
 
+// A window that can't be set up goes at once, before it is shown: so its creation has failed.
 BOOL CCalcTolDlg::OnInitDialog()
 {
     const CModuleSkin skin(kModuleCalcTol);
+    const bool complete = Succeeds([this] {
+        SetUp();
+        return true;
+    });
+    if (!complete)
+        DestroyWindow();
+    return complete ? TRUE : FALSE;
+}
+
+void CCalcTolDlg::SetUp()
+{
     CCalcTolDlgBase::OnInitDialog();
     m_windowLife.Begin();
     m_calcMethod = 0;  // a former window may have left another one
     SetUpChainList();
     SetUpClosingList();
     m_diagram.SubclassDlgItem(IDC_CHAIN_DIAGRAM, this);
-    return TRUE;
 }
 
 void CCalcTolDlg::SetUpChainList()

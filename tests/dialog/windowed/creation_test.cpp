@@ -1,5 +1,9 @@
 // The window of the calculation dialog: what Create answers, and what the lists hold then.
 
+#include <new>
+#include <stdexcept>
+
+#include "platform/moduleskin/module_skin.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
 
 namespace
@@ -118,6 +122,12 @@ void ExpectImages(const ListView& list, int width, int height)
     ImageList_GetIconSize(images, &imageWidth, &imageHeight);
     EXPECT_EQ(imageWidth, width);
     EXPECT_EQ(imageHeight, height);
+    IMAGEINFO image{};
+    ASSERT_TRUE(ImageList_GetImageInfo(images, 0, &image));
+    BITMAP bitmap{};
+    ASSERT_NE(::GetObjectW(image.hbmImage, sizeof(bitmap), &bitmap), 0);
+    EXPECT_EQ(bitmap.bmBitsPixel, 16);
+    EXPECT_NE(image.hbmMask, nullptr);
 }
 
 TEST_F(Creation, GivesTheListsTheirImages)
@@ -226,6 +236,82 @@ TEST_F(Creation, CanBeTriedAgainAfterAFailure)
     }
     Open(L"again");
     EXPECT_EQ(Links().Text(0, 0), L"again");
+}
+
+/// Memory runs out, or something else fails, while the window is set up.
+class FailingDialog : public CCalcTolDlg
+{
+public:
+    using CCalcTolDlg::CCalcTolDlg;
+
+    /// Throws; nothing fails without one.
+    std::function<void()> failure;
+
+protected:
+    void DoDataExchange(CDataExchange* /*exchange*/) override
+    {
+        if (failure)
+            failure();
+    }
+};
+
+const std::vector<std::function<void()>> kFailures = {&AfxThrowMemoryException, &AfxThrowResourceException,
+                                                      &AfxThrowInvalidArgException, [] { throw std::bad_alloc(); },
+                                                      [] { throw std::length_error("text"); }};
+
+TEST_F(Creation, AnswersZeroAndShowsNothingWhenItFailsHalfway)
+{
+    FailingDialog failing;
+    for (const std::function<void()>& failure : kFailures)
+    {
+        failing.failure = failure;
+        EXPECT_EQ(failing.Create(&host), 0);
+        EXPECT_EQ(failing.m_hWnd, nullptr);
+    }
+    EXPECT_TRUE(Codes().empty());
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+}
+
+TEST_F(Creation, CanBeTriedAgainAfterItFailedHalfway)
+{
+    FailingDialog failing;
+    failing.failure = &AfxThrowMemoryException;
+    failing.Create(&host);
+    failing.failure = nullptr;
+    EXPECT_EQ(failing.Create(&host), 1);
+    EXPECT_EQ(ListView(::GetDlgItem(failing.m_hWnd, IDC_CHAIN_LIST)).Rows(), 1);
+    EXPECT_EQ(ListView(::GetDlgItem(failing.m_hWnd, IDC_CLOSING_LIST)).Rows(), 1);
+    failing.DestroyWindow();
+}
+
+// --- as a modal dialog of the framework, for a host that makes it with a parent ---
+
+TEST_F(Creation, PassesItsTemplateAndTheParentToTheFrameworksDialog)
+{
+    const CModuleSkin skin(kModuleCalcTol);
+    RecordingWindow owner;
+    CCalcTolDlg modal(&owner);
+    HWND shownOwner = nullptr;
+    int links = -1;
+    const LoopScript script({[&] {
+                                shownOwner = ::GetWindow(modal.m_hWnd, GW_OWNER);
+                                links = ListView(::GetDlgItem(modal.m_hWnd, IDC_CHAIN_LIST)).Rows();
+                                modal.EndDialog(7);
+                            }},
+                            [&] { modal.EndDialog(IDABORT); });
+    EXPECT_EQ(modal.DoModal(), 7);
+    EXPECT_EQ(shownOwner, owner.m_hWnd);
+    EXPECT_EQ(links, 1) << "the chain row";
+}
+
+TEST_F(Creation, EndsAModalRunThatFailsHalfway)
+{
+    const CModuleSkin skin(kModuleCalcTol);
+    FailingDialog failing(&host);
+    failing.failure = &AfxThrowMemoryException;
+    EXPECT_EQ(failing.DoModal(), -1);
+    EXPECT_EQ(failing.m_hWnd, nullptr);
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
 }
 
 TEST_F(Creation, IsRefusedWhileTheWindowIsThere)
