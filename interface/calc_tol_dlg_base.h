@@ -29,8 +29,6 @@ public:
     /// A new calculation dialog without a window, owned by the caller; null only when memory runs out.
     static CCalcTolDlgBase* CreateCalcTolDlg();
 
-    using CDialog::Create;
-
     /// Creates and shows the modeless dialog, owned by `parent`, which receives the notifications. Non-zero on success.
     virtual BOOL Create(CWnd* parent) = 0;
     /// Label of the chain, shown in the chain row; to be given before Create.

@@ -28,7 +28,6 @@ public:
     /// The calls since the last look, such as "AddToList", in order.
     std::vector<std::string> TakeCalls();
 
-    using CCalcTolDlgBase::Create;
     BOOL Create(CWnd* parent) override;
     void SetFileName(CString name) override;
     void EndModal() override;

@@ -37,6 +37,15 @@ TEST(Factory, MakesADialogOfTheFramework)
     EXPECT_EQ(CRuntimeClass::FromName("CCalcTolDlg"), runtimeClass) << "a host can make it by name";
 }
 
+// The class's own operation is the only one of that name: nothing has to be cast, no window comes without a host.
+TEST(Factory, MakesADialogWhoseWindowIsCreatedThroughTheBase)
+{
+    const std::unique_ptr<CCalcTolDlgBase> dialog(CCalcTolDlgBase::CreateCalcTolDlg());
+    ASSERT_TRUE(dialog->Create(nullptr));
+    EXPECT_TRUE(::IsWindowVisible(dialog->m_hWnd));
+    dialog->DestroyWindow();
+}
+
 TEST(Factory, MakesADialogThatIsGoneAfterDelete)
 {
     for (int i = 0; i < 2; ++i)

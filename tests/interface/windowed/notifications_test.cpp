@@ -1,3 +1,5 @@
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "interface/notifications.h"
@@ -31,6 +33,43 @@ TEST(Notifications, ArriveBeforeTheCallReturns)
     EXPECT_EQ(received[0].message, static_cast<UINT>(WM_CHAR));
     EXPECT_EQ(received[0].wParam, 246U);
     EXPECT_EQ(received[0].lParam, 0xFFFF);
+}
+
+// A window of the other character set, as an older host may have: Windows would take the codes for typed characters
+// and translate them into the set's.
+TEST(Notifications, ReachAWindowOfTheAnsiSetUntranslated)
+{
+    static std::vector<WPARAM> received;
+    received.clear();
+    WNDCLASSA description{};
+    description.lpfnWndProc = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+        if (message != WM_CHAR)
+            return ::DefWindowProcA(window, message, wParam, lParam);
+        received.push_back(wParam);
+        return 0;
+    };
+    description.hInstance = ::GetModuleHandleW(nullptr);
+    description.lpszClassName = "NotificationsAnsiHost";
+    ASSERT_NE(::RegisterClassA(&description), 0);
+    const HWND window = ::CreateWindowExA(0, description.lpszClassName, "", WS_OVERLAPPEDWINDOW, 0, 0, 100, 100,
+                                          nullptr, nullptr, description.hInstance, nullptr);
+    ASSERT_NE(window, nullptr);
+    ASSERT_FALSE(::IsWindowUnicode(window));
+    CWnd host;
+    host.Attach(window);
+
+    // Which of the numbers a translation changes depends on the system's character set: so all of one byte.
+    std::vector<WPARAM> sent;
+    for (UINT code = 1; code <= 255; ++code)
+    {
+        sent.push_back(code);
+        NotifyHost(&host, static_cast<HostNotification>(code));
+    }
+    EXPECT_EQ(received, sent);
+
+    host.Detach();
+    ::DestroyWindow(window);
+    ::UnregisterClassA(description.lpszClassName, description.hInstance);
 }
 
 TEST(Notifications, AreNotSentWithoutAWindow)
