@@ -42,6 +42,23 @@ TEST_F(AddingLinks, TellTheHostBeforeTheDialogOpens)
     EXPECT_EQ(Codes(), (std::vector<WPARAM>{kLinkBegins, kChildCancelled}));
 }
 
+TEST_F(AddingLinks, TellTheHostWhileTheLastDialogsRecordCanBeRead)
+{
+    Command(ID_LINK_ADD, {[this] {
+                Load(Dimension(L"A1", L"25", L"0.2", L"-0.1"));
+                dialog->EndModal();
+            }});
+    CDimParams inside;
+    CDimParams afterwards;
+    host.On(kLinkBegins, [&] { dialog->GetDimDlgParams(inside); });
+    Command(ID_LINK_ADD, {[&] {
+                dialog->GetDimDlgParams(afterwards);
+                ClickChild(IDC_LINK_CANCEL);
+            }});
+    EXPECT_EQ(inside.name, L"A1") << "the next one has not taken its place yet";
+    EXPECT_EQ(afterwards.name, L"");
+}
+
 TEST_F(AddingLinks, OpenTheLinkToleranceDialogOverTheCalculationDialog)
 {
     HWND owner = nullptr;

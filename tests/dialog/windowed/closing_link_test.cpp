@@ -41,6 +41,23 @@ TEST_F(ClosingLinkTest, IsBegunWithItsOwnNotificationBeforeTheDialogOpens)
     EXPECT_EQ(Codes(), (std::vector<WPARAM>{246, kChildCancelled}));
 }
 
+TEST_F(ClosingLinkTest, IsBegunWhileTheLastDialogsRecordCanBeRead)
+{
+    Command(ID_CLOSING_ADD, {[this] {
+                LoadClosing(Dimension(L"A1", L"6", L"0.15", L"-0.15"));
+                dialog->EndModal();
+            }});
+    CDimParams inside;
+    CDimParams afterwards;
+    host.On(kClosingBegins, [&] { dialog->GetCloseDimDlgParams(inside); });
+    Command(ID_CLOSING_ADD, {[&] {
+                dialog->GetCloseDimDlgParams(afterwards);
+                ClickChild(IDC_CLOSING_CANCEL);
+            }});
+    EXPECT_EQ(inside.name, L"A1") << "the next one has not taken its place yet";
+    EXPECT_EQ(afterwards.name, L"");
+}
+
 TEST_F(ClosingLinkTest, IsBegunFromTheContextMenuAlike)
 {
     bool isClosingDialog = false;

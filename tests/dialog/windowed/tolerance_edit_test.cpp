@@ -36,6 +36,23 @@ TEST_F(EditingALink, TellsTheHostBeforeItsDialogOpens)
     EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 3}));
 }
 
+TEST_F(EditingALink, TellsTheHostWhileTheLastDialogsRecordCanBeRead)
+{
+    Command(ID_LINK_ADD, {[this] {
+                Load(Dimension(L"A1", L"25", L"0.2", L"-0.1"));
+                dialog->EndModal();
+            }});
+    CDimParams inside;
+    CDimParams afterwards;
+    host.On(kEditBegins, [&] { dialog->GetDimDlgParams(inside); });
+    Command(ID_LINK_EDIT, {[&] {
+                dialog->GetDimDlgParams(afterwards);
+                ClickChild(IDC_LINK_CANCEL);
+            }});
+    EXPECT_EQ(inside.nominal, L"25") << "the next one has not taken its place yet";
+    EXPECT_EQ(afterwards.nominal, L"4") << "the row's";
+}
+
 TEST_F(EditingALink, FillsTheRecordFromTheRow)
 {
     CDimParams params;
@@ -245,6 +262,23 @@ TEST_F(EditingTheClosingLink, TellsTheHostBeforeItsDialogOpens)
     Command(ID_CLOSING_EDIT, {[this] { ClickChild(IDC_CLOSING_CANCEL); }});
     EXPECT_FALSE(open);
     EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 3}));
+}
+
+TEST_F(EditingTheClosingLink, TellsTheHostWhileTheLastDialogsRecordCanBeRead)
+{
+    Command(ID_CLOSING_ADD, {[this] {
+                LoadClosing(Dimension(L"A1", L"25", L"0.2", L"-0.1"));
+                dialog->EndModal();
+            }});
+    CDimParams inside;
+    CDimParams afterwards;
+    host.On(kEditBegins, [&] { dialog->GetCloseDimDlgParams(inside); });
+    Command(ID_CLOSING_EDIT, {[&] {
+                dialog->GetCloseDimDlgParams(afterwards);
+                ClickChild(IDC_CLOSING_CANCEL);
+            }});
+    EXPECT_EQ(inside.nominal, L"25") << "the next one has not taken its place yet";
+    EXPECT_EQ(afterwards.nominal, L"6") << "the row's";
 }
 
 TEST_F(EditingTheClosingLink, FillsTheRecordFromTheRow)

@@ -151,4 +151,28 @@ TEST_F(WeightFixedChoice, DecidesWhatTheToleranceDialogShows)
     EXPECT_EQ(params.weightFixed, 0);
 }
 
+// A host's library may show anything in the cell: only the very text stands for a fixed weight.
+TEST_F(WeightFixedChoice, StandsForAFixedWeightByTheExactTextAlone)
+{
+    const CString fixed = ResourceText(52712);
+    CString upperCase = fixed;
+    upperCase.MakeUpper();
+    ASSERT_NE(upperCase, fixed);
+    FocusOnLink(1);
+    for (const CString& text : {upperCase, fixed + L" ", CString(), fixed})
+    {
+        Links().Row(2).Item(5).text = text;
+        bool isChecked = false;
+        CDimParams params;
+        params.weightFixed = 9;
+        Command(ID_LINK_EDIT, {[&] {
+                    isChecked = IsChildChecked(IDC_LINK_WEIGHT_FIXED);
+                    dialog->GetDimDlgParams(params);
+                    ClickChild(IDC_LINK_CANCEL);
+                }});
+        EXPECT_EQ(isChecked, text == fixed) << testing::PrintToString(text);
+        EXPECT_EQ(params.weightFixed, text == fixed ? 1 : 0) << testing::PrintToString(text);
+    }
+}
+
 }  // namespace
