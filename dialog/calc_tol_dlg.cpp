@@ -47,8 +47,8 @@ CCalcTolDlg::CCalcTolDlg(CWnd* parent) : CCalcTolDlgBase(IDD_CALC_TOL, parent)
     m_windowLife.End();  // there is none yet
 }
 
-// The window goes while all members are there. The child dialogs stay: the host may hold on to what it read from them,
-// see the class.
+// The window goes while all members are there. The child dialogs stay: one of them may be running, or waiting for the
+// host's answer, while the host deletes this object.
 CCalcTolDlg::~CCalcTolDlg()
 {
     CCalcTolDlgBase::DestroyWindow();

@@ -68,8 +68,8 @@ void CCalcTolDlg::AddToList(void* hostObject)
     m_chainList.SetCellKind(key, kColumnWeightFixed, kCellList);
 }
 
-// A record that is there already is abandoned, not freed: a host may replace the closing link from inside code that
-// still holds on to it.
+// A record that is there already is abandoned, not freed: that is the interface's rule, by which a closing link is
+// deleted before the next one is added.
 void CCalcTolDlg::AddCloseDimToList(void* hostObject)
 {
     Row* const row = ClosingRow();

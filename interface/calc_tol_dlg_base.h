@@ -29,11 +29,15 @@ public:
     /// A new calculation dialog without a window, owned by the caller; null only when memory runs out.
     static CCalcTolDlgBase* CreateCalcTolDlg();
 
-    /// Creates and shows the modeless dialog, owned by `parent`, which receives the notifications. Non-zero on success.
+    /// Creates and shows the modeless dialog, owned by `parent`, which receives the notifications and must live longer
+    /// than the dialog's window: no temporary object that stands for a foreign window.
+    /// @return  non-zero on success; zero when anything failed, nothing is shown then, and when the window is there
     virtual BOOL Create(CWnd* parent) = 0;
     /// Label of the chain, shown in the chain row; to be given before Create.
     virtual void SetFileName(CString name);
-    /// Ends the child dialog that is open, with result 5.
+    /// Ends the child dialog that is open, with result 5, when the message being handled has returned: only then are
+    /// the windows that it disabled enabled again. A host that wants the focus back goes on from a message posted to
+    /// itself.
     virtual void EndModal();
     /// Loads a dimension into the link tolerance dialog. An empty nominal changes nothing.
     virtual void SetDlgParams(CString& name, CString& nominal, CString& caption, int& weightFixed, CString& tolField,

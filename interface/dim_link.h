@@ -10,7 +10,7 @@ struct CDimLink
 {
     void* hostObject;         ///< the host's object for this dimension; stored and returned, never dereferenced
     std::int32_t weight;      ///< 1 to 10; the calculation does not read it
-    std::int32_t increasing;  ///< non-zero: increasing link; unset in the closing link's record
+    std::int32_t increasing;  ///< non-zero: increasing link; means nothing for the closing link
     double mean;              ///< centre of grouping, millimetres
     std::int32_t law;         ///< distribution law: 1 normal, 2 uniform, 3 triangular (Simpson)
 };

@@ -51,6 +51,7 @@ void ScriptedHost::AnswerNothing()
     m_answers.clear();
     m_answerToAll = nullptr;
     m_whenEnabled = nullptr;
+    m_whenDisabled = nullptr;
     m_whenFocused = nullptr;
 }
 
@@ -58,8 +59,8 @@ LRESULT ScriptedHost::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const LRESULT result = RecordingWindow::WindowProc(message, wParam, lParam);
     std::function<void()> action;
-    if (message == WM_ENABLE && wParam != FALSE)
-        action = std::exchange(m_whenEnabled, nullptr);
+    if (message == WM_ENABLE)
+        action = std::exchange(wParam != FALSE ? m_whenEnabled : m_whenDisabled, nullptr);
     if (message == WM_SETFOCUS)
         action = std::exchange(m_whenFocused, nullptr);
     if (action)

@@ -32,6 +32,8 @@ public:
     void OnEvery(std::function<void()> answer) { m_answerToAll = std::move(answer); }
     /// Done the next time that the window is enabled.
     void OnEnabled(std::function<void()> action) { m_whenEnabled = std::move(action); }
+    /// Done the next time that the window is disabled.
+    void OnDisabled(std::function<void()> action) { m_whenDisabled = std::move(action); }
     /// Done the next time that the window gets the keyboard.
     void OnFocused(std::function<void()> action) { m_whenFocused = std::move(action); }
     void AnswerNothing();
@@ -43,6 +45,7 @@ private:
     std::map<WPARAM, std::function<void()>> m_answers;
     std::function<void()> m_answerToAll;
     std::function<void()> m_whenEnabled;
+    std::function<void()> m_whenDisabled;
     std::function<void()> m_whenFocused;
 };
 

@@ -1,5 +1,5 @@
-// The moments in which a child dialog goes: its owners are enabled, the calculation dialog becomes active, the main
-// window gets the keyboard. And hosts that end the calculation dialog in one of these moments.
+// The moments in which a child dialog opens or goes: its owners are disabled and enabled, the calculation dialog becomes
+// active, the main window gets the keyboard. And hosts that end the calculation dialog in one of these moments.
 
 #include <tuple>
 
@@ -111,6 +111,36 @@ TEST_P(AnyOtherResult, LeavesTheActivationToAnotherWindow)
                 static_cast<CDialog*>(CWnd::FromHandlePermanent(Child()))->EndDialog(7);
             }});
     EXPECT_EQ(::GetActiveWindow(), other.m_hWnd);
+}
+
+/// The host's window is disabled before the child's window is made.
+using DisablingTheHost = EachChild;
+
+INSTANTIATE_TEST_SUITE_P(Kinds, DisablingTheHost,
+                         testing::Values(kLinkChild, kClosingChild, kDistributionChild, kWeightChild, kNewLinkChild,
+                                         kNewClosingChild),
+                         [](const testing::TestParamInfo<ChildKind>& kind) { return kind.param.name; });
+
+TEST_P(DisablingTheHost, MayDeleteTheDialogWhoseChildIsToOpen)
+{
+    host.OnDisabled([this] { dialog.reset(); });
+    Command(GetParam().command);
+    EXPECT_EQ(dialog, nullptr);
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+    PumpUntilIdle();
+}
+
+TEST_P(DisablingTheHost, MayOpenTheWindowAnewOfTheDialogWhoseChildIsToOpen)
+{
+    host.OnDisabled([this] {
+        dialog->DestroyWindow();
+        dialog->Create(&host);
+    });
+    Command(GetParam().command);
+    EXPECT_EQ(Child(), nullptr);
+    EXPECT_TRUE(::IsWindowVisible(Window()));
+    EXPECT_TRUE(::IsWindowEnabled(Window()));
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
 }
 
 // These two kinds leave the host's window disabled while they are open.
