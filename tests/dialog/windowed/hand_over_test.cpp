@@ -1,5 +1,5 @@
-// The moments in which a child dialog opens or goes: its owners are disabled and enabled, the calculation dialog becomes
-// active, the main window gets the keyboard. And hosts that end the calculation dialog in one of these moments.
+// The moments in which a child dialog opens or goes: its owners are disabled and enabled, the calculation dialog
+// becomes active, the main window gets the keyboard. And hosts that end the calculation dialog in one of these moments.
 
 #include <tuple>
 
