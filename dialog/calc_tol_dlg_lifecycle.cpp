@@ -19,6 +19,8 @@ namespace
 
 constexpr DWORD kListStyles = LVS_EX_GRIDLINES | LVS_EX_HEADERDRAGDROP | LVS_EX_FULLROWSELECT | LVS_EX_TWOCLICKACTIVATE;
 constexpr COLORREF kTransparent = RGB(255, 0, 255);
+constexpr COLORREF kFocusBack = RGB(240, 220, 40);
+constexpr COLORREF kFocusText = RGB(0, 0, 0);  // legible on it in every colour scheme
 constexpr int kImageGrowth = 9;
 constexpr int kClosingImage = 0;
 constexpr int kNameWidth = 130;  // column widths, pixels
@@ -39,6 +41,7 @@ void AttachList(CFListCtrl& list, UINT controlId, CWnd& dialog, CImageList& imag
     list.SubclassDlgItem(controlId, &dialog);
     list.SetExtendedStyle(list.GetExtendedStyle() | kListStyles);
     list.SetImageList(&images, LVSIL_SMALL);
+    list.SetFocusColours(kFocusBack, kFocusText);
 }
 
 void AddColumn(CFListCtrl& list, int column, UINT headingId, int width, bool tree = false)
