@@ -4,9 +4,10 @@
     lint.py BUILD_FOLDER... [--only PATH...]
 
 A source is looked at as the first build folder that compiles it compiles it, so `lint.py build/native build/windows`
-takes the window-free sources from the native build and the rest from the Windows one. The folders must be built: what a
-source includes is asked of ninja. A source is looked at again only when it, a file of ours that it includes, its
-compiler options or the settings of clang-tidy changed since it was last found clean; build/lint remembers that.
+takes the window-free sources from the native build and the rest from the Windows one. Where a build compiles a dozen
+sources at once, clang-tidy, too, looks at them together. The folders must be built: what a source includes is asked of
+ninja. A source is looked at again only when it, a file of ours that it includes, its compiler options or the settings of
+clang-tidy changed since it was last found clean; build/lint remembers that.
 """
 
 import argparse
@@ -43,22 +44,27 @@ def without_precompiled_header(command):
 
 
 class Source:
-    """One source file and how a build folder compiles it."""
+    """A source file, or several that are compiled at once, and how a build folder does that."""
 
     def __init__(self, entry, folder):
         self.path = Path(os.path.normpath(Path(entry["directory"], entry["file"])))
         self.folder = folder
         self.command = without_precompiled_header(shlex.split(entry["command"]))
         self.object = self.command[self.command.index("-o") + 1]
+        self.is_several = self.path.parent.name == "Unity" and self.path.is_relative_to(folder)
 
     def name(self):
-        return self.path.relative_to(ROOT).as_posix()
+        return self.path.relative_to(self.folder if self.is_several else ROOT).as_posix()
+
+    def settings_folder(self):
+        home = ROOT / self.name().split("/CMakeFiles/")[0] if self.is_several else self.path.parent
+        return next(folder for folder in (home, *home.parents) if (folder / ".clang-tidy").exists())
 
 
 def sources_of(folder):
     entries = json.loads((folder / "compile_commands.json").read_text(encoding="utf-8"))
-    sources = (Source(entry, folder) for entry in entries if entry["file"].endswith(".cpp"))
-    return [source for source in sources if is_ours(source.path)]
+    sources = (Source(entry, folder) for entry in entries if entry["file"].endswith((".cpp", ".cxx")))
+    return [source for source in sources if source.is_several or is_ours(source.path)]
 
 
 def included_files(folder):
@@ -97,7 +103,7 @@ def key_of(source, files, settings):
     digest.update("\0".join(source.command).encode())
     for path in sorted({source.path, *files}):
         digest.update(str(path).encode() + b"\0" + path.read_bytes())
-    for folder in {path.parent for path in files} | {source.path.parent}:
+    for folder in {path.parent for path in files} | {source.settings_folder()}:
         for above in (folder, *folder.parents):
             rules = above / ".clang-tidy"
             if above.is_relative_to(ROOT) and rules.exists():
@@ -123,9 +129,11 @@ def header_filter(settings_folder):
 
 def findings_in(source, options):
     """clang-tidy's report, empty for a clean source."""
-    settings_folder = next(folder for folder in source.path.parents if (folder / ".clang-tidy").exists())
-    command = ["clang-tidy", "--quiet", f"--header-filter={header_filter(settings_folder)}", str(source.path), "--"]
-    command += [*source.command[1:], "-Wno-unknown-warning-option", *options]
+    settings = source.settings_folder()
+    command = ["clang-tidy", "--quiet", f"--config-file={settings / '.clang-tidy'}", f"--header-filter={header_filter(settings)}"]
+    if source.is_several:
+        command.append("--checks=-bugprone-suspicious-include")  # it is made of nothing but included sources
+    command += [str(source.path), "--", *source.command[1:], "-Wno-unknown-warning-option", *options]
     run = subprocess.run(command, text=True, capture_output=True, cwd=source.folder, stdin=subprocess.DEVNULL)
     if run.returncode == 0 and not FINDING.search(run.stdout):
         return ""
@@ -153,17 +161,17 @@ def main():
     arguments = parser.parse_args()
 
     settings = output_of("clang-tidy", "--version").encode() + Path(__file__).read_bytes()
-    chosen, work = {}, []
+    chosen, work = set(), []
     for folder in (folder.resolve() for folder in arguments.folders):
         if not (folder / "compile_commands.json").exists():
             sys.exit(f"lint.py: {folder} is not a configured build folder")
         files = included_files(folder)
         for source in sources_of(folder):
-            if source.path in chosen or not source.name().startswith(tuple(arguments.only)):
+            if source.name() in chosen or not source.name().startswith(tuple(arguments.only)):
                 continue
             if source.object not in files:
                 sys.exit(f"lint.py: {source.name()} is not built in {folder}")
-            chosen[source.path] = source
+            chosen.add(source.name())
             memory = MEMORY / source.name().replace("/", "!")
             key = key_of(source, files[source.object], settings)
             if not memory.exists() or memory.read_text(encoding="utf-8") != key:

@@ -3,6 +3,11 @@
 # The prefix is made on first use and a server is kept running, so that later programs start at once.
 # WINE_MANAGED=Y makes a prefix whose windows belong to the desktop's window manager; otherwise they belong to none.
 : "${WINEPREFIX:=$HOME/.cache/calctol-wine}" "${WINEDEBUG:=-all}" "${WINEDLLOVERRIDES:=mscoree,mshtml=}"
+# A program with CALCTOL_DISPLAY=second goes to the display SECOND_DISPLAY, when there is one, in a prefix of its own.
+if [ "${CALCTOL_DISPLAY-}" = second ] && [ -n "${SECOND_DISPLAY-}" ]; then
+    DISPLAY=$SECOND_DISPLAY WINEPREFIX=$WINEPREFIX-second
+    export DISPLAY
+fi
 export WINEPREFIX WINEDEBUG WINEDLLOVERRIDES
 mkdir -p "$WINEPREFIX" || exit
 (

@@ -10,7 +10,6 @@
 namespace
 {
 
-constexpr int kBaseInset = 20;  // base line and the nominal's text below it, above the area's bottom
 constexpr int kNameRow = 7;
 constexpr int kNominalLineTop = 20;
 constexpr int kLimitLineTop = 40;
@@ -62,12 +61,12 @@ void WriteMean(DisplayList& list, const DensityPlotInput& input, const DensityPl
 {
     list.Text(scale.meanX.value_or(scale.centre), kMeanTextRow, TextAlign::Center, NumberText9(input.mean));
     if (scale.meanX)
-        list.Line(*scale.meanX, kMeanLineTop, *scale.meanX, input.height - kBaseInset);
+        list.Line(*scale.meanX, kMeanLineTop, *scale.meanX, input.height - kPlotBaseInset);
 }
 
 void WriteField(DisplayList& list, const DensityPlotInput& input, const Sizes& sizes)
 {
-    const int base = input.height - kBaseInset;
+    const int base = input.height - kPlotBaseInset;
     const auto scale = PlaceOnDensityPlot(input.width, sizes.nominal, sizes.upperDev, sizes.lowerDev, input.mean);
     const int centre = input.width / 2;
     if (!scale || sizes.IsPointAtOrAboveNominal())
@@ -90,7 +89,7 @@ void WriteField(DisplayList& list, const DensityPlotInput& input, const Sizes& s
 DisplayList LayoutDensityPlot(const DensityPlotInput& input)
 {
     const int centre = input.width / 2;
-    const int base = input.height - kBaseInset;
+    const int base = input.height - kPlotBaseInset;
     const Sizes sizes{TextToNumber(input.nominalText), TextToNumber(input.upperDevText),
                       TextToNumber(input.lowerDevText)};
 

@@ -12,7 +12,6 @@ namespace
 {
 
 constexpr Rgb kDensityColor{0, 196, 196};
-constexpr int kBaseInset = 20;      // base line above the plot's bottom
 constexpr int kCurveHeadroom = 80;  // what the curve's peak leaves of the plot's height
 constexpr int kFlatTop = 140;       // top of the uniform and the triangular density
 constexpr int kFewestColumns = 2;
@@ -21,7 +20,7 @@ constexpr std::size_t kFewestCorners = 3;
 // One vertex at either foot, and one in each column between them but the last.
 std::vector<PixelPoint> CurvePoints(const DensityField& field, double sigma)
 {
-    const int base = field.height - kBaseInset;
+    const int base = field.height - kPlotBaseInset;
     const int columns = field.right - field.left;
     const double step = field.width / columns;
     std::vector<PixelPoint> points{{field.left, base}};
@@ -48,13 +47,13 @@ void DrawNormal(DisplayList& list, const DensityField& field)
 
 void DrawUniform(DisplayList& list, const DensityField& field)
 {
-    list.Rect(kDensityColor, field.left + 1, kFlatTop, field.right, field.height - kBaseInset);
+    list.Rect(kDensityColor, field.left + 1, kFlatTop, field.right, field.height - kPlotBaseInset);
     list.Line(field.left + 1, kFlatTop, field.right, kFlatTop);
 }
 
 void DrawTriangular(DisplayList& list, const DensityField& field)
 {
-    const int base = field.height - kBaseInset;
+    const int base = field.height - kPlotBaseInset;
     std::vector<PixelPoint> points{{field.left, base}, {(field.left + field.right) / 2, kFlatTop}, {field.right, base}};
     list.Fill(kDensityColor, points);
     list.Outline(std::move(points));
@@ -68,8 +67,8 @@ void DrawDensity(DisplayList& list, std::int32_t law, const DensityField& field)
         return;
     if (law == kNormalLaw && field.height > kCurveHeadroom)
         DrawNormal(list, field);
-    else if (law == kUniformLaw && field.height - kBaseInset > kFlatTop)
+    else if (law == kUniformLaw && field.height - kPlotBaseInset > kFlatTop)
         DrawUniform(list, field);
-    else if (law == kTriangularLaw && field.height - kBaseInset > kFlatTop)
+    else if (law == kTriangularLaw && field.height - kPlotBaseInset > kFlatTop)
         DrawTriangular(list, field);
 }

@@ -4,6 +4,9 @@
 
 #include <cstdint>
 
+/// Base line and the nominal's text below it, pixels above the plot's bottom.
+inline constexpr int kPlotBaseInset = 20;
+
 /// The tolerance field under a density, with its place in the plot.
 struct DensityField
 {
@@ -15,8 +18,7 @@ struct DensityField
     int height = 0;           // of the plot, pixels
 };
 
-/// Draws the probability density of a law over the field, filled and with its upper edge outlined, on the base line 20
-/// pixels above the plot's bottom.
+/// Draws the probability density of a law over the field, filled and with its upper edge outlined, on the base line.
 ///
 /// The normal law's peak lies 60 pixels below the top; the uniform and the triangular one always rise to 140 pixels
 /// below it, whatever the field's width. Draws nothing for another law, for a field without width, for fewer than two

@@ -2,7 +2,7 @@
 
 namespace
 {
-bool Ends(UINT key)
+bool EndsButton(UINT key)
 {
     switch (key)
     {
@@ -74,7 +74,7 @@ UINT CInPlaceButton::OnGetDlgCode()
 
 void CInPlaceButton::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    if (Ends(key))
+    if (EndsButton(key))
         EndByKey(*this, m_cell, key);
     else
         CButton::OnKeyDown(key, repeat, flags);

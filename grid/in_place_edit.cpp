@@ -4,7 +4,7 @@ namespace
 {
 constexpr UINT kMargin = 2;  // beside the text, pixels: both fit into the 5 that a grown edit is wider than its text
 
-bool Ends(UINT key)
+bool EndsEdit(UINT key)
 {
     switch (key)
     {
@@ -79,7 +79,7 @@ UINT CInPlaceEdit::OnGetDlgCode()
 
 void CInPlaceEdit::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    if (Ends(key))
+    if (EndsEdit(key))
         EndByKey(*this, m_cell, key);
     else
         CEdit::OnKeyDown(key, repeat, flags);

@@ -42,16 +42,16 @@ constexpr int kPromptPart = 0;
 constexpr int kDimensionPart = 1;
 constexpr int kSmallestWidth = 640;  // of the window, units of 1/96 inch: in a smaller one texts hide the drawing
 constexpr int kSmallestHeight = 480;
-constexpr int kDialogWidth = 570;        // room for the calculation dialog, units
-constexpr int kStartHeightPercent = 80;  // of the screen
-constexpr int kUsualPixelsPerInch = 96;
+constexpr int kDialogWidth = 570;         // room for the calculation dialog, units
+constexpr int kStartHeightPercent = 80;   // of the screen
 constexpr int kDimensionPartWidth = 190;  // of the status line's right part, units
 
 /// A size given in units of 1/96 inch, in pixels.
 CSize SizeOf(int width, int height)
 {
     const int pixelsPerInch = CClientDC(nullptr).GetDeviceCaps(LOGPIXELSY);
-    return {::MulDiv(width, pixelsPerInch, kUsualPixelsPerInch), ::MulDiv(height, pixelsPerInch, kUsualPixelsPerInch)};
+    return {::MulDiv(width, pixelsPerInch, USER_DEFAULT_SCREEN_DPI),
+            ::MulDiv(height, pixelsPerInch, USER_DEFAULT_SCREEN_DPI)};
 }
 
 void Enable(CMenu& menu, UINT command, bool enabled)

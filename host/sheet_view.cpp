@@ -17,7 +17,6 @@ END_MESSAGE_MAP()
 namespace
 {
 
-constexpr int kUsualPixelsPerInch = 96;
 constexpr double kClickTolerance = 5;  // units of 1/96 inch
 
 int PixelsPerInch()
@@ -28,7 +27,7 @@ int PixelsPerInch()
 }  // namespace
 
 CSheetView::CSheetView(SheetViewOwner& owner)
-    : m_owner(owner), m_unit(static_cast<double>(PixelsPerInch()) / kUsualPixelsPerInch), m_fonts(PixelsPerInch())
+    : m_owner(owner), m_unit(static_cast<double>(PixelsPerInch()) / USER_DEFAULT_SCREEN_DPI), m_fonts(PixelsPerInch())
 {
 }
 

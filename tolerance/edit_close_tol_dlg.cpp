@@ -15,20 +15,20 @@ END_MESSAGE_MAP()
 namespace
 {
 
-constexpr ToleranceControls kControls{.nominal = IDC_CLOSING_NOMINAL,
-                                      .caption = IDC_CLOSING_CAPTION,
-                                      .field = IDC_CLOSING_FIELD,
-                                      .filter = IDC_CLOSING_FILTER,
-                                      .upperDev = IDC_CLOSING_UPPER_DEV,
-                                      .lowerDev = IDC_CLOSING_LOWER_DEV,
-                                      .picture = IDC_CLOSING_PICTURE,
-                                      .ok = IDC_CLOSING_OK};
+constexpr ToleranceControls kClosingControls{.nominal = IDC_CLOSING_NOMINAL,
+                                             .caption = IDC_CLOSING_CAPTION,
+                                             .field = IDC_CLOSING_FIELD,
+                                             .filter = IDC_CLOSING_FILTER,
+                                             .upperDev = IDC_CLOSING_UPPER_DEV,
+                                             .lowerDev = IDC_CLOSING_LOWER_DEV,
+                                             .picture = IDC_CLOSING_PICTURE,
+                                             .ok = IDC_CLOSING_OK};
 
 }  // namespace
 
 CEditCloseTolDlg::CEditCloseTolDlg(CWnd* parent)
     : CChildDialog(IDD_EDIT_CLOSE_TOL, parent), m_parent(parent),
-      m_entry(*this, m_fieldBox, m_filter, m_params, kControls)
+      m_entry(*this, m_fieldBox, m_filter, m_params, kClosingControls)
 {
 }
 
@@ -68,7 +68,7 @@ void CEditCloseTolDlg::SetDlgParams(CString& name, CString& nominal, CString& ca
                             .weightFixed = weightFixed,
                             .increasing = increasing,
                             .dimKind = dimKind};
-    const FocusKeeper focus(*this, kControls.ok);
+    const FocusKeeper focus(*this, kClosingControls.ok);
     m_entry.ShowTexts(loaded);
     m_entry.EnableInputs(true);
     if (m_entry.ShowKind(loaded.dimKind))
@@ -113,6 +113,6 @@ void CEditCloseTolDlg::OnCancel()
 
 void CEditCloseTolDlg::Reset()
 {
-    const FocusKeeper focus(*this, kControls.ok);
+    const FocusKeeper focus(*this, kClosingControls.ok);
     m_entry.Reset();
 }

@@ -16,14 +16,14 @@ END_MESSAGE_MAP()
 namespace
 {
 
-constexpr ToleranceControls kControls{.nominal = IDC_LINK_NOMINAL,
-                                      .caption = IDC_LINK_CAPTION,
-                                      .field = IDC_LINK_FIELD,
-                                      .filter = IDC_LINK_FILTER,
-                                      .upperDev = IDC_LINK_UPPER_DEV,
-                                      .lowerDev = IDC_LINK_LOWER_DEV,
-                                      .picture = IDC_LINK_PICTURE,
-                                      .ok = IDC_LINK_OK};
+constexpr ToleranceControls kLinkControls{.nominal = IDC_LINK_NOMINAL,
+                                          .caption = IDC_LINK_CAPTION,
+                                          .field = IDC_LINK_FIELD,
+                                          .filter = IDC_LINK_FILTER,
+                                          .upperDev = IDC_LINK_UPPER_DEV,
+                                          .lowerDev = IDC_LINK_LOWER_DEV,
+                                          .picture = IDC_LINK_PICTURE,
+                                          .ok = IDC_LINK_OK};
 
 // Entries of the direction box.
 constexpr int kIncreasing = 0;
@@ -32,7 +32,8 @@ constexpr int kDecreasing = 1;
 }  // namespace
 
 CEditTolDlg::CEditTolDlg(CWnd* parent)
-    : CChildDialog(IDD_EDIT_TOL, parent), m_parent(parent), m_entry(*this, m_fieldBox, m_filter, m_params, kControls)
+    : CChildDialog(IDD_EDIT_TOL, parent), m_parent(parent),
+      m_entry(*this, m_fieldBox, m_filter, m_params, kLinkControls)
 {
 }
 
@@ -86,7 +87,7 @@ void CEditTolDlg::SetDlgParams(CString& name, CString& nominal, CString& caption
                             .weightFixed = weightFixed,
                             .increasing = increasing,
                             .dimKind = dimKind};
-    const FocusKeeper focus(*this, kControls.ok);
+    const FocusKeeper focus(*this, kLinkControls.ok);
     SetDlgItemText(IDC_LINK_NAME, loaded.name);
     m_entry.ShowTexts(loaded);
     EnableLinkInputs(true);
@@ -180,7 +181,7 @@ bool CEditTolDlg::AcceptInputs()
 
 void CEditTolDlg::Reset()
 {
-    const FocusKeeper focus(*this, kControls.ok);
+    const FocusKeeper focus(*this, kLinkControls.ok);
     m_entry.Reset();
     if (!::IsWindow(m_hWnd))
         return;

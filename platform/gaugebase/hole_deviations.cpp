@@ -19,8 +19,8 @@ using Limit = FundamentalDeviation::Limit;
 // and, up to IT8, M are printed with "+ Delta" over 3 to 500 mm.
 // Laid out as printed, one row a size step:
 // clang-format off
-constexpr std::array<std::string_view, 11> kLettersAToH = {"A", "B", "C", "CD", "D", "E", "EF", "F", "FG", "G", "H"};
-constexpr std::size_t kColumnJ6 = 11, kColumnKTo8 = 14, kColumnKFrom9 = 15, kColumnM = 16;
+constexpr std::array<std::string_view, 11> kHoleLettersAToH = {"A", "B", "C", "CD", "D", "E", "EF", "F", "FG", "G", "H"};
+constexpr std::size_t kColumnJ6 = 11, kColumnKTo8 = 14, kColumnKFrom9 = 15, kHoleColumnM = 16;
 constexpr SizeTable<DeviationCell, 17, 41> kHolesAToM = {{
     //over  up to      A     B     C    CD    D    E    EF    F    FG   G  H    J6    J7    J8  K-8   K9-    M
     {   0,     3, { 270,  140,   60,   34,  20,  14,   10,   6,    4,  2, 0,    2,    4,    6,   0,    0,  -2}},
@@ -118,7 +118,7 @@ constexpr SizeTable<DeviationCell, 14, 41> kHolesNToZc = {{
 // clang-format on
 static_assert(IsContiguous(kHolesAToM) && IsContiguous(kHolesNToZc));
 
-constexpr float kTinySize = 1;                     // footnote: A, B and, above IT8, N are not used up to 1 mm
+constexpr float kTinyHole = 1;                     // footnote: A, B and, above IT8, N are not used up to 1 mm
 constexpr float kDeltaOver = 3, kDeltaUpTo = 500;  // sizes for which Delta is added
 constexpr int kDeltaUpToGradeKToN = 8;             // coarsest grade of K, M and N with Delta
 constexpr int kDeltaUpToGradePToZc = 7;            // coarsest grade of P to ZC with Delta
@@ -149,11 +149,11 @@ std::optional<FundamentalDeviation> HoleFundamentalDeviation(std::string_view le
     const auto* const stepNToZc = FindStep(kHolesNToZc, size);
     if (!stepAToM || !stepNToZc)
         return std::nullopt;
-    if (size <= kTinySize && (letters == "A" || letters == "B" || (letters == "N" && grade > kDeltaUpToGradeKToN)))
+    if (size <= kTinyHole && (letters == "A" || letters == "B" || (letters == "N" && grade > kDeltaUpToGradeKToN)))
         return std::nullopt;
 
-    if (const auto letter = std::ranges::find(kLettersAToH, letters); letter != kLettersAToH.end())
-        return DeviationInCell(stepAToM->values[letter - kLettersAToH.begin()], Limit::lower);
+    if (const auto letter = std::ranges::find(kHoleLettersAToH, letters); letter != kHoleLettersAToH.end())
+        return DeviationInCell(stepAToM->values[letter - kHoleLettersAToH.begin()], Limit::lower);
     if (letters == "J")
         return grade >= 6 && grade <= 8
                    ? DeviationInCell(stepAToM->values[kColumnJ6 + static_cast<std::size_t>(grade - 6)], Limit::upper)
@@ -163,7 +163,7 @@ std::optional<FundamentalDeviation> HoleFundamentalDeviation(std::string_view le
                    ? DeviationInCell(stepAToM->values[kColumnKFrom9], Limit::upper)
                    : DeviationPlusDelta(stepAToM->values[kColumnKTo8], grade, kDeltaUpToGradeKToN, size);
     if (letters == "M")
-        return DeviationOfM(stepAToM->values[kColumnM], grade, size);
+        return DeviationOfM(stepAToM->values[kHoleColumnM], grade, size);
     if (letters == "N")
         return grade > kDeltaUpToGradeKToN
                    ? DeviationInCell(stepNToZc->values[kColumnNFrom9], Limit::upper)

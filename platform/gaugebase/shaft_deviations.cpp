@@ -17,7 +17,7 @@ using Limit = FundamentalDeviation::Limit;
 // Column js is left out: its limits are half of IT to either side.
 // Laid out as printed, one row a size step:
 // clang-format off
-constexpr std::array<std::string_view, 11> kLettersAToH = {"a", "b", "c", "cd", "d", "e", "ef", "f", "fg", "g", "h"};
+constexpr std::array<std::string_view, 11> kShaftLettersAToH = {"a", "b", "c", "cd", "d", "e", "ef", "f", "fg", "g", "h"};
 constexpr std::size_t kColumnJ5To6 = 11, kColumnJ7 = 12, kColumnJ8 = 13;
 constexpr SizeTable<DeviationCell, 14, 41> kShaftsAToJ = {{
     //over  up to       a     b     c    cd     d     e    ef     f    fg    g  h  j5-6    j7    j8
@@ -66,7 +66,7 @@ constexpr SizeTable<DeviationCell, 14, 41> kShaftsAToJ = {{
 
 // Lower limit deviation ei of k to zc, micrometres (ISO 286-1, table 5). The first column is k in IT4 to IT7, the second
 // k in the finer and coarser grades; the others hold for all grades.
-constexpr std::size_t kColumnK4To7 = 0, kColumnKElse = 1, kColumnM = 2;
+constexpr std::size_t kColumnK4To7 = 0, kColumnKElse = 1, kShaftColumnM = 2;
 constexpr std::array<std::string_view, 14> kLettersMToZc = {
     "m", "n", "p", "r", "s", "t", "u", "v", "x", "y", "z", "za", "zb", "zc"};
 constexpr SizeTable<DeviationCell, 16, 41> kShaftsKToZc = {{
@@ -116,7 +116,7 @@ constexpr SizeTable<DeviationCell, 16, 41> kShaftsKToZc = {{
 // clang-format on
 static_assert(IsContiguous(kShaftsAToJ) && IsContiguous(kShaftsKToZc));
 
-constexpr float kTinySize = 1;  // footnote: a and b are not used up to 1 mm
+constexpr float kTinyShaft = 1;  // footnote: a and b are not used up to 1 mm
 
 std::optional<std::size_t> ColumnOfJ(int grade)
 {
@@ -140,11 +140,11 @@ std::optional<FundamentalDeviation> ShaftFundamentalDeviation(std::string_view l
 {
     const auto* const stepAToJ = FindStep(kShaftsAToJ, size);
     const auto* const stepKToZc = FindStep(kShaftsKToZc, size);
-    if (!stepAToJ || !stepKToZc || (size <= kTinySize && (letters == "a" || letters == "b")))
+    if (!stepAToJ || !stepKToZc || (size <= kTinyShaft && (letters == "a" || letters == "b")))
         return std::nullopt;
 
-    if (const auto letter = std::ranges::find(kLettersAToH, letters); letter != kLettersAToH.end())
-        return DeviationInCell(stepAToJ->values[letter - kLettersAToH.begin()], Limit::upper);
+    if (const auto letter = std::ranges::find(kShaftLettersAToH, letters); letter != kShaftLettersAToH.end())
+        return DeviationInCell(stepAToJ->values[letter - kShaftLettersAToH.begin()], Limit::upper);
     if (letters == "j")
     {
         const auto column = ColumnOfJ(grade);
@@ -153,8 +153,8 @@ std::optional<FundamentalDeviation> ShaftFundamentalDeviation(std::string_view l
     if (letters == "k")
         return DeviationInCell(stepKToZc->values[grade >= 4 && grade <= 7 ? kColumnK4To7 : kColumnKElse], Limit::lower);
     if (const auto letter = std::ranges::find(kLettersMToZc, letters); letter != kLettersMToZc.end())
-        return DeviationInCell(stepKToZc->values[kColumnM + static_cast<std::size_t>(letter - kLettersMToZc.begin())],
-                               Limit::lower);
+        return DeviationInCell(
+            stepKToZc->values[kShaftColumnM + static_cast<std::size_t>(letter - kLettersMToZc.begin())], Limit::lower);
     return std::nullopt;
 }
 

@@ -6,17 +6,13 @@
 #include <utility>
 
 #include "base/exceptions.h"
+#include "base/or_empty.h"
 
 namespace
 {
 std::size_t Size(int length)
 {
     return static_cast<std::size_t>(std::max(length, 0));
-}
-
-LPCWSTR OrEmpty(LPCWSTR text)
-{
-    return text != nullptr ? text : L"";
 }
 
 std::wstring FromAnsi(LPCSTR text, int length)

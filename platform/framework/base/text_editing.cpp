@@ -5,15 +5,11 @@
 #include <cwctype>
 
 #include "base/exceptions.h"
+#include "base/or_empty.h"
 #include "base/text.h"
 
 namespace
 {
-LPCWSTR OrEmpty(LPCWSTR text)
-{
-    return text != nullptr ? text : L"";
-}
-
 template <class IsTrimmed>
 void TrimLeftWhile(std::wstring& text, IsTrimmed isTrimmed)
 {

@@ -6,7 +6,7 @@ IMPLEMENT_DYNCREATE(CButton, CWnd)
 
 namespace
 {
-const ControlClass controlClass(WC_BUTTON, RUNTIME_CLASS(CButton));
+const ControlClass buttonClass(WC_BUTTON, RUNTIME_CLASS(CButton));
 }
 
 CButton::CButton() = default;

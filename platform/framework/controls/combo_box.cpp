@@ -6,7 +6,7 @@ IMPLEMENT_DYNCREATE(CComboBox, CWnd)
 
 namespace
 {
-const ControlClass controlClass(WC_COMBOBOX, RUNTIME_CLASS(CComboBox));
+const ControlClass comboBoxClass(WC_COMBOBOX, RUNTIME_CLASS(CComboBox));
 }
 
 CComboBox::CComboBox() = default;

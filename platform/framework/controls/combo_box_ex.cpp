@@ -6,7 +6,7 @@ IMPLEMENT_DYNCREATE(CComboBoxEx, CComboBox)
 
 namespace
 {
-const ControlClass controlClass(WC_COMBOBOXEX, RUNTIME_CLASS(CComboBoxEx));
+const ControlClass comboBoxExClass(WC_COMBOBOXEX, RUNTIME_CLASS(CComboBoxEx));
 }
 
 CComboBoxEx::CComboBoxEx() = default;

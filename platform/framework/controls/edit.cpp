@@ -6,7 +6,7 @@ IMPLEMENT_DYNCREATE(CEdit, CWnd)
 
 namespace
 {
-const ControlClass controlClass(WC_EDIT, RUNTIME_CLASS(CEdit));
+const ControlClass editClass(WC_EDIT, RUNTIME_CLASS(CEdit));
 }
 
 CEdit::CEdit() = default;

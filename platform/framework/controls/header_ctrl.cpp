@@ -6,7 +6,7 @@ IMPLEMENT_DYNCREATE(CHeaderCtrl, CWnd)
 
 namespace
 {
-const ControlClass controlClass(WC_HEADER, RUNTIME_CLASS(CHeaderCtrl));
+const ControlClass headerClass(WC_HEADER, RUNTIME_CLASS(CHeaderCtrl));
 }
 
 CHeaderCtrl::CHeaderCtrl() = default;

@@ -6,7 +6,7 @@ IMPLEMENT_DYNCREATE(CListBox, CWnd)
 
 namespace
 {
-const ControlClass controlClass(WC_LISTBOX, RUNTIME_CLASS(CListBox));
+const ControlClass listBoxClass(WC_LISTBOX, RUNTIME_CLASS(CListBox));
 }
 
 CListBox::CListBox() = default;

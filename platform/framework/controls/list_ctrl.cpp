@@ -7,7 +7,7 @@ IMPLEMENT_DYNCREATE(CListCtrl, CWnd)
 
 namespace
 {
-const ControlClass controlClass(WC_LISTVIEW, RUNTIME_CLASS(CListCtrl));
+const ControlClass listClass(WC_LISTVIEW, RUNTIME_CLASS(CListCtrl));
 }
 
 CListCtrl::CListCtrl() = default;

@@ -6,7 +6,7 @@ IMPLEMENT_DYNCREATE(CScrollBar, CWnd)
 
 namespace
 {
-const ControlClass controlClass(WC_SCROLLBAR, RUNTIME_CLASS(CScrollBar));
+const ControlClass scrollBarClass(WC_SCROLLBAR, RUNTIME_CLASS(CScrollBar));
 }
 
 CScrollBar::CScrollBar() = default;

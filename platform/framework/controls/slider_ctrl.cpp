@@ -6,7 +6,7 @@ IMPLEMENT_DYNCREATE(CSliderCtrl, CWnd)
 
 namespace
 {
-const ControlClass controlClass(TRACKBAR_CLASS, RUNTIME_CLASS(CSliderCtrl));
+const ControlClass sliderClass(TRACKBAR_CLASS, RUNTIME_CLASS(CSliderCtrl));
 }
 
 CSliderCtrl::CSliderCtrl() = default;

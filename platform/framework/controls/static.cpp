@@ -6,7 +6,7 @@ IMPLEMENT_DYNCREATE(CStatic, CWnd)
 
 namespace
 {
-const ControlClass controlClass(WC_STATIC, RUNTIME_CLASS(CStatic));
+const ControlClass staticClass(WC_STATIC, RUNTIME_CLASS(CStatic));
 }
 
 CStatic::CStatic() = default;

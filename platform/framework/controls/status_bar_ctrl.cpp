@@ -6,7 +6,7 @@ IMPLEMENT_DYNCREATE(CStatusBarCtrl, CWnd)
 
 namespace
 {
-const ControlClass controlClass(STATUSCLASSNAME, RUNTIME_CLASS(CStatusBarCtrl));
+const ControlClass statusBarClass(STATUSCLASSNAME, RUNTIME_CLASS(CStatusBarCtrl));
 }
 
 CStatusBarCtrl::CStatusBarCtrl() = default;

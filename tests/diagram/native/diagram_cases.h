@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <type_traits>
 #include <variant>
@@ -21,6 +22,8 @@ struct DeviationCase
 };
 
 inline constexpr double kNominal = 100.0;
+inline constexpr double kInfinity = std::numeric_limits<double>::infinity();
+inline constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 /// Input for the analytic picture; every text names what it stands for.
 inline ChainDiagramInput AnalyticInput(const DeviationCase& deviations, int width = 400, int height = 300)

@@ -4,14 +4,10 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <random>
 
 namespace
 {
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 std::size_t MarkerLines(const DisplayList& list)
 {

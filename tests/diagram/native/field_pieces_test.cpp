@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include "tests/diagram/native/diagram_cases.h"
 
 // Width 400: centre line 200, ten pixels a unit as long as the largest deviation is 14.
 
@@ -13,9 +13,6 @@ std::vector<FieldPiece> Cut(const DiagramDeviations& deviations)
 {
     return CutField(deviations, PlaceMarkers(deviations, 400));
 }
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 }  // namespace
 

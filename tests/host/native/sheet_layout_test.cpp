@@ -11,7 +11,7 @@
 
 namespace
 {
-constexpr double kNear = 1e-6;
+constexpr double kNearPixels = 1e-6;
 
 Drawing Plate(double width, double height)
 {
@@ -23,10 +23,10 @@ Drawing Plate(double width, double height)
 void ExpectInside(const SheetLayout& layout, double width, double height)
 {
     const auto expectInside = [&](PixelPoint point) {
-        EXPECT_GE(point.x, -kNear);
-        EXPECT_GE(point.y, -kNear);
-        EXPECT_LE(point.x, width + kNear);
-        EXPECT_LE(point.y, height + kNear);
+        EXPECT_GE(point.x, -kNearPixels);
+        EXPECT_GE(point.y, -kNearPixels);
+        EXPECT_LE(point.x, width + kNearPixels);
+        EXPECT_LE(point.y, height + kNearPixels);
     };
     for (const auto& outline : layout.outlines)
         std::for_each(outline.begin(), outline.end(), expectInside);
@@ -48,17 +48,17 @@ TEST(SheetLayout, FillsTheAreaUpToTheMarginAndCentresTheRest)
 {
     const SheetLayout layout = LayoutSheet(Plate(100, 25), 232, 132, FixedTextMeasure(), 1.0);
 
-    EXPECT_NEAR(layout.transform.scale, 2.0, kNear);
+    EXPECT_NEAR(layout.transform.scale, 2.0, kNearPixels);
     const std::vector<PixelPoint>& outline = layout.outlines.at(0);
-    EXPECT_NEAR(outline[0].x, 16, kNear);
-    EXPECT_NEAR(outline[0].y, 66 + 25, kNear);
-    EXPECT_NEAR(outline[2].x, 216, kNear);
-    EXPECT_NEAR(outline[2].y, 66 - 25, kNear);
+    EXPECT_NEAR(outline[0].x, 16, kNearPixels);
+    EXPECT_NEAR(outline[0].y, 66 + 25, kNearPixels);
+    EXPECT_NEAR(outline[2].x, 216, kNearPixels);
+    EXPECT_NEAR(outline[2].y, 66 - 25, kNearPixels);
 }
 
 TEST(SheetLayout, AnUprightDrawingIsLimitedByItsHeight)
 {
-    EXPECT_NEAR(LayoutSheet(Plate(25, 100), 232, 132, FixedTextMeasure(), 1.0).transform.scale, 1.0, kNear);
+    EXPECT_NEAR(LayoutSheet(Plate(25, 100), 232, 132, FixedTextMeasure(), 1.0).transform.scale, 1.0, kNearPixels);
 }
 
 // Text and arrows keep their size: a dimension above the plate takes its offset and 11 + 1 pixels of text.
@@ -74,8 +74,8 @@ TEST(SheetLayout, LeavesRoomForTexts)
     const SheetLayout layout = LayoutSheet(drawing, 1000, 263, FixedTextMeasure(), 1.0);
 
     // 263 - 2 * 16 = 231 = 120 * scale + 11
-    EXPECT_NEAR(layout.transform.scale, 220.0 / 120.0, kNear);
-    EXPECT_NEAR(layout.dimensions[0].textBox.corner.y, 16, kNear);
+    EXPECT_NEAR(layout.transform.scale, 220.0 / 120.0, kNearPixels);
+    EXPECT_NEAR(layout.dimensions[0].textBox.corner.y, 16, kNearPixels);
 }
 
 TEST(SheetLayout, ADrawingWithoutPointsIsEmpty)
@@ -94,8 +94,8 @@ TEST(SheetLayout, ASinglePointStandsInTheMiddle)
     const SheetLayout layout = LayoutSheet(drawing, 300, 200, FixedTextMeasure(), 1.0);
 
     EXPECT_EQ(layout.transform.scale, 1.0);
-    EXPECT_NEAR(layout.dimensions.at(0).textBox.corner.x, 147, kNear);
-    EXPECT_NEAR(layout.dimensions.at(0).textBox.corner.y, 95, kNear);
+    EXPECT_NEAR(layout.dimensions.at(0).textBox.corner.x, 147, kNearPixels);
+    EXPECT_NEAR(layout.dimensions.at(0).textBox.corner.y, 95, kNearPixels);
 }
 
 TEST(SheetLayout, AnAreaThatIsTooSmallStillGivesAFinitePicture)

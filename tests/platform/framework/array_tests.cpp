@@ -10,15 +10,15 @@
 
 namespace
 {
-using Numbers = CArray<int, int>;
+using NumberArray = CArray<int, int>;
 
-void AddAll(Numbers& numbers, std::initializer_list<int> added)
+void AddAll(NumberArray& numbers, std::initializer_list<int> added)
 {
     for (const int number : added)
         numbers.Add(number);
 }
 
-CString Shown(const Numbers& numbers)
+CString Shown(const NumberArray& numbers)
 {
     CString text;
     for (INT_PTR index = 0; index < numbers.GetSize(); ++index)
@@ -50,7 +50,7 @@ int Counted::copies = 0;
 
 TEST(CArray, StartsEmpty)
 {
-    const Numbers numbers;
+    const NumberArray numbers;
     EXPECT_TRUE(numbers.IsEmpty());
     EXPECT_EQ(numbers.GetSize(), 0);
     EXPECT_EQ(numbers.GetCount(), 0);
@@ -60,7 +60,7 @@ TEST(CArray, StartsEmpty)
 
 TEST(CArray, AddGivesTheIndexOfTheNewElement)
 {
-    Numbers numbers;
+    NumberArray numbers;
     EXPECT_EQ(numbers.Add(5), 0);
     EXPECT_EQ(numbers.Add(6), 1);
     EXPECT_EQ(Shown(numbers), L"5 6");
@@ -70,9 +70,9 @@ TEST(CArray, AddGivesTheIndexOfTheNewElement)
 
 TEST(CArray, EveryAccessOutsideRaisesInvalidArgument)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1, 2});
-    const Numbers& unchangeable = numbers;
+    const NumberArray& unchangeable = numbers;
     for (const INT_PTR index : {INT_PTR{-1}, INT_PTR{2}, INT_PTR{1000}})
     {
         SCOPED_TRACE(index);
@@ -88,7 +88,7 @@ TEST(CArray, EveryAccessOutsideRaisesInvalidArgument)
 
 TEST(CArray, ElementsCanBeChangedInPlace)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1, 2, 3, 4});
     numbers[0] = 10;
     numbers.SetAt(1, 20);
@@ -99,7 +99,7 @@ TEST(CArray, ElementsCanBeChangedInPlace)
 
 TEST(CArray, SetSizeAddsZerosOrCuts)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1, 2});
     numbers.SetSize(4);
     EXPECT_EQ(Shown(numbers), L"1 2 0 0");
@@ -111,7 +111,7 @@ TEST(CArray, SetSizeAddsZerosOrCuts)
 
 TEST(CArray, ANegativeSizeRaisesInvalidArgument)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1, 2});
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.SetSize(-1); }));
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.SetSize(-2); }));
@@ -120,7 +120,7 @@ TEST(CArray, ANegativeSizeRaisesInvalidArgument)
 
 TEST(CArray, AGrowByKeepsTheElementsInPlaceWhileItLasts)
 {
-    Numbers numbers;
+    NumberArray numbers;
     numbers.SetSize(1, 100);  // makes room for 100 elements
     const int* const place = numbers.GetData();
     for (int added = 0; added < 99; ++added)
@@ -131,7 +131,7 @@ TEST(CArray, AGrowByKeepsTheElementsInPlaceWhileItLasts)
 // Doubling makes about log2(100000) = 17 moves; a fixed step makes one for every few elements.
 TEST(CArray, AppendingMovesTheElementsSeldom)
 {
-    Numbers numbers;
+    NumberArray numbers;
     int moves = 0;
     const int* place = nullptr;
     for (int added = 0; added < 100000; ++added)
@@ -146,7 +146,7 @@ TEST(CArray, AppendingMovesTheElementsSeldom)
 
 TEST(CArray, SetAtGrowFillsTheGapWithZeros)
 {
-    Numbers numbers;
+    NumberArray numbers;
     numbers.SetAtGrow(3, 9);
     EXPECT_EQ(Shown(numbers), L"0 0 0 9");
     numbers.SetAtGrow(1, 5);
@@ -156,7 +156,7 @@ TEST(CArray, SetAtGrowFillsTheGapWithZeros)
 
 TEST(CArray, InsertAtMovesTheFollowingElementsUp)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1, 2, 3});
     numbers.InsertAt(1, 9);
     EXPECT_EQ(Shown(numbers), L"1 9 2 3");
@@ -168,7 +168,7 @@ TEST(CArray, InsertAtMovesTheFollowingElementsUp)
 
 TEST(CArray, InsertAtBehindTheEndGrowsUpToIt)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1});
     numbers.InsertAt(3, 5, 2);
     EXPECT_EQ(Shown(numbers), L"1 0 0 5 5");
@@ -176,9 +176,9 @@ TEST(CArray, InsertAtBehindTheEndGrowsUpToIt)
 
 TEST(CArray, InsertAtTakesAnotherArray)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1, 2});
-    Numbers others;
+    NumberArray others;
     AddAll(others, {8, 9});
     numbers.InsertAt(1, &others);
     EXPECT_EQ(Shown(numbers), L"1 8 9 2");
@@ -187,17 +187,17 @@ TEST(CArray, InsertAtTakesAnotherArray)
 
 TEST(CArray, InsertingNothingOrNowhereRaisesInvalidArgument)
 {
-    Numbers numbers;
+    NumberArray numbers;
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.InsertAt(-1, 5); }));
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.InsertAt(0, 5, 0); }));
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.InsertAt(0, 5, -1); }));
-    EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.InsertAt(0, static_cast<const Numbers*>(nullptr)); }));
+    EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.InsertAt(0, static_cast<const NumberArray*>(nullptr)); }));
     EXPECT_TRUE(numbers.IsEmpty());
 }
 
 TEST(CArray, RemoveAtMovesTheFollowingElementsDown)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1, 2, 3, 4});
     numbers.RemoveAt(0);
     EXPECT_EQ(Shown(numbers), L"2 3 4");
@@ -209,7 +209,7 @@ TEST(CArray, RemoveAtMovesTheFollowingElementsDown)
 
 TEST(CArray, RemovingWhatIsNotThereRaisesInvalidArgument)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1, 2});
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.RemoveAt(2); }));
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.RemoveAt(-1); }));
@@ -220,9 +220,9 @@ TEST(CArray, RemovingWhatIsNotThereRaisesInvalidArgument)
 
 TEST(CArray, AppendGivesTheIndexOfTheFirstNewElement)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1, 2});
-    Numbers others;
+    NumberArray others;
     AddAll(others, {8, 9});
     EXPECT_EQ(numbers.Append(others), 2);
     EXPECT_EQ(Shown(numbers), L"1 2 8 9");
@@ -232,9 +232,9 @@ TEST(CArray, AppendGivesTheIndexOfTheFirstNewElement)
 
 TEST(CArray, CopyBecomesEqual)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1, 2, 3});
-    Numbers others;
+    NumberArray others;
     AddAll(others, {8, 9});
     numbers.Copy(others);
     EXPECT_EQ(Shown(numbers), L"8 9");
@@ -246,7 +246,7 @@ TEST(CArray, CopyBecomesEqual)
 
 TEST(CArray, FreeExtraKeepsTheElements)
 {
-    Numbers numbers;
+    NumberArray numbers;
     numbers.SetSize(0, 1000);
     AddAll(numbers, {1, 2, 3});
     numbers.FreeExtra();
@@ -255,7 +255,7 @@ TEST(CArray, FreeExtraKeepsTheElements)
 
 TEST(CArray, RemoveAllGivesTheMemoryBack)
 {
-    Numbers numbers;
+    NumberArray numbers;
     AddAll(numbers, {1, 2, 3});
     numbers.RemoveAll();
     EXPECT_TRUE(numbers.IsEmpty());

@@ -8,10 +8,10 @@
 
 namespace
 {
-using Numbers = CList<int, int>;
+using NumberList = CList<int, int>;
 
 // The numbers from the head on; walked back from the tail as well, so that a broken chain shows.
-CString Shown(const Numbers& numbers)
+CString Shown(const NumberList& numbers)
 {
     CString forwards;
     for (POSITION position = numbers.GetHeadPosition(); position != nullptr;)
@@ -35,7 +35,7 @@ struct OneTwoThree : testing::Test
         three = numbers.AddTail(3);
     }
 
-    Numbers numbers;
+    NumberList numbers;
     POSITION one;
     POSITION two;
     POSITION three;
@@ -46,7 +46,7 @@ using CListTest = OneTwoThree;
 
 TEST(CList, StartsEmpty)
 {
-    const Numbers numbers;
+    const NumberList numbers;
     EXPECT_TRUE(numbers.IsEmpty());
     EXPECT_EQ(numbers.GetCount(), 0);
     EXPECT_EQ(numbers.GetSize(), 0);
@@ -56,7 +56,7 @@ TEST(CList, StartsEmpty)
 
 TEST(CList, TheEndsOfAnEmptyListRaiseInvalidArgument)
 {
-    Numbers numbers;
+    NumberList numbers;
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.GetHead(); }));
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.GetTail(); }));
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.RemoveHead(); }));
@@ -65,7 +65,7 @@ TEST(CList, TheEndsOfAnEmptyListRaiseInvalidArgument)
 
 TEST(CList, TheNullPositionRaisesInvalidArgument)
 {
-    Numbers numbers;
+    NumberList numbers;
     numbers.AddTail(1);
     POSITION none = nullptr;
     EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.GetNext(none); }));
@@ -147,10 +147,10 @@ TEST_F(CListTest, InsertingAtTheNullPositionIsAtTheEnds)
     numbers.InsertBefore(nullptr, 0);
     numbers.InsertAfter(nullptr, 4);
     EXPECT_EQ(Shown(numbers), L"0 1 2 3 4");
-    Numbers empty;
+    NumberList empty;
     empty.InsertAfter(nullptr, 1);
     EXPECT_EQ(Shown(empty), L"1");
-    Numbers other;
+    NumberList other;
     other.InsertBefore(nullptr, 1);
     EXPECT_EQ(Shown(other), L"1");
 }
@@ -174,14 +174,14 @@ TEST_F(CListTest, FindsByIndex)
 
 TEST_F(CListTest, AddsAnotherListInItsOrder)
 {
-    Numbers others;
+    NumberList others;
     others.AddTail(8);
     others.AddTail(9);
     numbers.AddTail(&others);
     EXPECT_EQ(Shown(numbers), L"1 2 3 8 9");
     numbers.AddHead(&others);
     EXPECT_EQ(Shown(numbers), L"8 9 1 2 3 8 9");
-    Numbers empty;
+    NumberList empty;
     empty.AddHead(&others);
     EXPECT_EQ(Shown(empty), L"8 9");
     EXPECT_EQ(Shown(others), L"8 9");
@@ -202,8 +202,8 @@ TEST_F(CListTest, MayBeAddedToItself)
 
 TEST_F(CListTest, ANullListRaisesInvalidArgument)
 {
-    EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.AddTail(static_cast<const Numbers*>(nullptr)); }));
-    EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.AddHead(static_cast<const Numbers*>(nullptr)); }));
+    EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.AddTail(static_cast<const NumberList*>(nullptr)); }));
+    EXPECT_TRUE(Raises<CInvalidArgException>([&] { numbers.AddHead(static_cast<const NumberList*>(nullptr)); }));
     EXPECT_EQ(Shown(numbers), L"1 2 3");
 }
 

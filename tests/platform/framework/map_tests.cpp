@@ -11,7 +11,7 @@
 
 namespace
 {
-using Numbers = CMap<int, int, int, int>;
+using NumberMap = CMap<int, int, int, int>;
 
 // A key of a type of its own: a hole or a shaft of a grade, such as H7 or g6. Case makes no difference to it.
 struct Field
@@ -35,7 +35,7 @@ BOOL CompareElements<Field, Field>(const Field* first, const Field* second)
 
 TEST(CMap, StartsEmpty)
 {
-    const Numbers numbers;
+    const NumberMap numbers;
     EXPECT_TRUE(numbers.IsEmpty());
     EXPECT_EQ(numbers.GetCount(), 0);
     EXPECT_EQ(numbers.GetSize(), 0);
@@ -44,7 +44,7 @@ TEST(CMap, StartsEmpty)
 
 TEST(CMap, LooksUpWhatWasSet)
 {
-    Numbers numbers;
+    NumberMap numbers;
     numbers.SetAt(7, 70);
     numbers[8] = 80;
     int value = -1;
@@ -57,7 +57,7 @@ TEST(CMap, LooksUpWhatWasSet)
 
 TEST(CMap, AFailedLookupLeavesTheValue)
 {
-    const Numbers numbers;
+    const NumberMap numbers;
     int value = -1;
     EXPECT_FALSE(numbers.Lookup(7, value));
     EXPECT_EQ(value, -1);
@@ -65,7 +65,7 @@ TEST(CMap, AFailedLookupLeavesTheValue)
 
 TEST(CMap, SettingAKeyAgainReplacesItsValue)
 {
-    Numbers numbers;
+    NumberMap numbers;
     numbers.SetAt(7, 70);
     numbers.SetAt(7, 71);
     int value = -1;
@@ -76,14 +76,14 @@ TEST(CMap, SettingAKeyAgainReplacesItsValue)
 
 TEST(CMap, ABracketedMissingKeyEntersWithZero)
 {
-    Numbers numbers;
+    NumberMap numbers;
     EXPECT_EQ(numbers[5], 0);
     EXPECT_EQ(numbers.GetCount(), 1);
 }
 
 TEST(CMap, RemovesKeys)
 {
-    Numbers numbers;
+    NumberMap numbers;
     numbers.SetAt(7, 70);
     numbers.SetAt(8, 80);
     EXPECT_TRUE(numbers.RemoveKey(7));
@@ -95,7 +95,7 @@ TEST(CMap, RemovesKeys)
 
 TEST(CMap, AWalkMeetsEveryPairOnce)
 {
-    Numbers numbers;
+    NumberMap numbers;
     SetSquares(numbers, 500);
     std::set<std::pair<int, int>> met;
     for (POSITION position = numbers.GetStartPosition(); position != nullptr;)
@@ -111,7 +111,7 @@ TEST(CMap, AWalkMeetsEveryPairOnce)
 
 TEST(CMap, APairMayBeRemovedWhileWalking)
 {
-    Numbers numbers;
+    NumberMap numbers;
     SetSquares(numbers, 500);
     for (POSITION position = numbers.GetStartPosition(); position != nullptr;)
     {
@@ -129,7 +129,7 @@ TEST(CMap, APairMayBeRemovedWhileWalking)
 
 TEST(CMap, TheNullPositionRaisesInvalidArgument)
 {
-    Numbers numbers;
+    NumberMap numbers;
     numbers.SetAt(1, 1);
     POSITION none = nullptr;
     int key = -1;

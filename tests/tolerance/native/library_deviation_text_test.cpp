@@ -9,18 +9,18 @@
 namespace
 {
 
-struct Case
+struct LibraryCase
 {
     float micrometres;
     std::string_view text;
 };
 
-void PrintTo(const Case& sample, std::ostream* out)
+void PrintTo(const LibraryCase& sample, std::ostream* out)
 {
     *out << sample.micrometres;
 }
 
-class LibraryDeviation : public testing::TestWithParam<Case>
+class LibraryDeviation : public testing::TestWithParam<LibraryCase>
 {
 };
 
@@ -30,42 +30,49 @@ TEST_P(LibraryDeviation, ShowsAsMillimetresWithThreeDigits)
 }
 
 INSTANTIATE_TEST_SUITE_P(Usual, LibraryDeviation,
-                         testing::Values(Case{21, "+0.021"}, Case{-13, "-0.013"}, Case{12.5F, "+0.0125"},
-                                         Case{-12.5F, "-0.0125"}, Case{-3, "-0.003"}, Case{7.5F, "+0.0075"},
-                                         Case{0.5F, "+0.0005"}, Case{0.3F, "+0.0003"}, Case{0.15F, "+0.00015"},
-                                         Case{100, "+0.1"}, Case{250, "+0.25"}, Case{-1000, "-1"}, Case{999, "+0.999"},
-                                         Case{33000, "+33"}, Case{13500, "+13.5"}, Case{0.1F, "+0.0001"}));
+                         testing::Values(LibraryCase{21, "+0.021"}, LibraryCase{-13, "-0.013"},
+                                         LibraryCase{12.5F, "+0.0125"}, LibraryCase{-12.5F, "-0.0125"},
+                                         LibraryCase{-3, "-0.003"}, LibraryCase{7.5F, "+0.0075"},
+                                         LibraryCase{0.5F, "+0.0005"}, LibraryCase{0.3F, "+0.0003"},
+                                         LibraryCase{0.15F, "+0.00015"}, LibraryCase{100, "+0.1"},
+                                         LibraryCase{250, "+0.25"}, LibraryCase{-1000, "-1"},
+                                         LibraryCase{999, "+0.999"}, LibraryCase{33000, "+33"},
+                                         LibraryCase{13500, "+13.5"}, LibraryCase{0.1F, "+0.0001"}));
 
 INSTANTIATE_TEST_SUITE_P(Rounded, LibraryDeviation,
-                         testing::Values(Case{1234, "+1.23"}, Case{-1236, "-1.24"}, Case{12345, "+12.3"},
-                                         Case{999.6F, "+1"}, Case{99.96F, "+0.1"}));
+                         testing::Values(LibraryCase{1234, "+1.23"}, LibraryCase{-1236, "-1.24"},
+                                         LibraryCase{12345, "+12.3"}, LibraryCase{999.6F, "+1"},
+                                         LibraryCase{99.96F, "+0.1"}));
 
 // 31.25 gives exactly 0.03125: a tie, which goes to the even digit.
-INSTANTIATE_TEST_SUITE_P(Tie, LibraryDeviation, testing::Values(Case{31.25F, "+0.0312"}, Case{-31.25F, "-0.0312"}));
+INSTANTIATE_TEST_SUITE_P(Tie, LibraryDeviation,
+                         testing::Values(LibraryCase{31.25F, "+0.0312"}, LibraryCase{-31.25F, "-0.0312"}));
 
 // 104.5 * 0.001 is 0.104500003... in single precision, 0.10449999... in double; 128.5 the other way round:
 // 0.128499999... against 0.1285000...
 INSTANTIATE_TEST_SUITE_P(SinglePrecisionProduct, LibraryDeviation,
-                         testing::Values(Case{104.5F, "+0.105"}, Case{-104.5F, "-0.105"}, Case{120.5F, "+0.121"},
-                                         Case{144.5F, "+0.145"}, Case{128.5F, "+0.128"}, Case{-128.5F, "-0.128"}));
+                         testing::Values(LibraryCase{104.5F, "+0.105"}, LibraryCase{-104.5F, "-0.105"},
+                                         LibraryCase{120.5F, "+0.121"}, LibraryCase{144.5F, "+0.145"},
+                                         LibraryCase{128.5F, "+0.128"}, LibraryCase{-128.5F, "-0.128"}));
 
 INSTANTIATE_TEST_SUITE_P(ExponentForm, LibraryDeviation,
-                         testing::Values(Case{0.05F, "+5e-05"}, Case{-0.05F, "-5e-05"}, Case{0.0999F, "+9.99e-05"},
-                                         Case{999500, "+1e+03"}, Case{1e6F, "+1e+03"}, Case{-1e7F, "-1e+04"},
-                                         Case{1e38F, "+1e+35"}));
+                         testing::Values(LibraryCase{0.05F, "+5e-05"}, LibraryCase{-0.05F, "-5e-05"},
+                                         LibraryCase{0.0999F, "+9.99e-05"}, LibraryCase{999500, "+1e+03"},
+                                         LibraryCase{1e6F, "+1e+03"}, LibraryCase{-1e7F, "-1e+04"},
+                                         LibraryCase{1e38F, "+1e+35"}));
 
-INSTANTIATE_TEST_SUITE_P(Nothing, LibraryDeviation, testing::Values(Case{0.0F, ""}, Case{-0.0F, ""}));
+INSTANTIATE_TEST_SUITE_P(Nothing, LibraryDeviation, testing::Values(LibraryCase{0.0F, ""}, LibraryCase{-0.0F, ""}));
 
 // Only a deviation of exactly 0 is empty; one whose product vanishes is not.
 INSTANTIATE_TEST_SUITE_P(VanishingProduct, LibraryDeviation,
-                         testing::Values(Case{std::numeric_limits<float>::denorm_min(), "+0"},
-                                         Case{-std::numeric_limits<float>::denorm_min(), "-0"}));
+                         testing::Values(LibraryCase{std::numeric_limits<float>::denorm_min(), "+0"},
+                                         LibraryCase{-std::numeric_limits<float>::denorm_min(), "-0"}));
 
 INSTANTIATE_TEST_SUITE_P(NoNumber, LibraryDeviation,
-                         testing::Values(Case{std::numeric_limits<float>::infinity(), "+inf"},
-                                         Case{-std::numeric_limits<float>::infinity(), "-inf"},
-                                         Case{std::numeric_limits<float>::quiet_NaN(), "+nan"},
-                                         Case{-std::numeric_limits<float>::quiet_NaN(), "+nan"}));
+                         testing::Values(LibraryCase{std::numeric_limits<float>::infinity(), "+inf"},
+                                         LibraryCase{-std::numeric_limits<float>::infinity(), "-inf"},
+                                         LibraryCase{std::numeric_limits<float>::quiet_NaN(), "+nan"},
+                                         LibraryCase{-std::numeric_limits<float>::quiet_NaN(), "+nan"}));
 
 TEST(LibraryDeviationText, IsAcceptedAndKeptWhenThePairIsConfirmed)
 {

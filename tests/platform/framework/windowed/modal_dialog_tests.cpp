@@ -6,6 +6,7 @@
 #include <afxwin.h>
 
 #include "tests/platform/framework/windowed/resource_module.h"
+#include "tests/platform/framework/windowed/shown_dialog.h"
 #include "tests/platform/framework/windowed/window_resources.h"
 #include "tests/support/framework_printers.h"
 #include "tests/support/input.h"
@@ -44,12 +45,6 @@ protected:
 BEGIN_MESSAGE_MAP(CPlainDialog, CDialog)
     ON_COMMAND(ID_DRAW, &CPlainDialog::OnDraw)
 END_MESSAGE_MAP()
-
-/// When the dialog is shown and works.
-std::function<bool()> IsShown(const CDialog& dialog)
-{
-    return [&dialog] { return dialog.m_hWnd != nullptr && dialog.IsWindowVisible(); };
-}
 }  // namespace
 
 TEST(ModalDialog, OkButtonEndsItWithIdok)

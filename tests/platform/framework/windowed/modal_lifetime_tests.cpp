@@ -5,6 +5,7 @@
 
 #include <afxwin.h>
 
+#include "tests/platform/framework/windowed/shown_dialog.h"
 #include "tests/platform/framework/windowed/window_resources.h"
 #include "tests/support/framework_printers.h"
 #include "tests/support/planned_actions.h"
@@ -48,11 +49,6 @@ protected:
 BEGIN_MESSAGE_MAP(CShortDialog, CDialog)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
-
-std::function<bool()> IsShown(const CDialog& dialog)
-{
-    return [&dialog] { return dialog.m_hWnd != nullptr && dialog.IsWindowVisible(); };
-}
 }  // namespace
 
 TEST(ModalDialogLifetime, WindowDestroyedFromOutsideGivesMinusOne)
