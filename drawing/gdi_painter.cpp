@@ -4,6 +4,7 @@
 #include "drawing/text_encoding.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace
 {
@@ -24,19 +25,6 @@ std::vector<POINT> ToPoints(const std::vector<PixelPoint>& points)
     return result;
 }
 
-UINT ToTextAlign(TextAlign align)
-{
-    switch (align)
-    {
-    case TextAlign::Center:
-        return TA_TOP | TA_CENTER;
-    case TextAlign::Right:
-        return TA_TOP | TA_RIGHT;
-    default:
-        return TA_TOP | TA_LEFT;
-    }
-}
-
 int LeftEnd(const TextPrimitive& text, int extent)
 {
     switch (text.align)
@@ -50,36 +38,79 @@ int LeftEnd(const TextPrimitive& text, int extent)
     }
 }
 
-/// One overload per primitive.
-struct PrimitivePainter
+struct TextPlace
 {
-    CDC& dc;
-    int width;
+    CRect area;
+    bool isFree = true;  // else it covers an earlier text
+};
+
+/// The places of a picture's texts: inside of it and, where there is room, none over another.
+class TextPlaces
+{
+public:
+    explicit TextPlaces(CSize picture) : m_picture(picture) {}
+
+    TextPlace Take(const CRect& wanted)
+    {
+        TextPlace place{Inside(wanted)};
+        const CRect below = BelowOthers(place.area);
+        if (below.bottom <= m_picture.cy)
+            place.area = below;
+        else
+            place.isFree = below.top == place.area.top;
+        m_taken.push_back(place.area);
+        return place;
+    }
+
+private:
+    CRect Inside(const CRect& place) const
+    {
+        const CPoint corner(std::max<int>(0, std::min<int>(place.left, m_picture.cx - place.Width())),
+                            std::max<int>(0, std::min<int>(place.top, m_picture.cy - place.Height())));
+        return {corner, place.Size()};
+    }
+
+    CRect BelowOthers(CRect place) const
+    {
+        const auto isCovered = [&place](const CRect& other) {
+            CRect common;
+            return common.IntersectRect(&place, &other) != FALSE;
+        };
+        for (auto other = std::ranges::find_if(m_taken, isCovered); other != m_taken.end();
+             other = std::ranges::find_if(m_taken, isCovered))
+            place.OffsetRect(0, other->bottom - place.top);
+        return place;
+    }
+
+    CSize m_picture;
+    std::vector<CRect> m_taken;
+};
+
+/// One overload per primitive.
+class PrimitivePainter
+{
+public:
+    PrimitivePainter(CDC& dc, CSize picture) : m_dc(dc), m_texts(picture) {}
 
     void operator()(const LinePrimitive& line) const
     {
-        dc.MoveTo(line.start.x, line.start.y);
-        dc.LineTo(line.end.x, line.end.y);
+        m_dc.MoveTo(line.start.x, line.start.y);
+        m_dc.LineTo(line.end.x, line.end.y);
     }
 
-    void operator()(const TextPrimitive& text) const
+    void operator()(const TextPrimitive& text)
     {
         const CString characters = FromUtf8(text.text);
-        const int extent = dc.GetTextExtent(characters).cx;
-        const int left = LeftEnd(text, extent);
-        const int leftInside = std::max(0, std::min(left, width - extent));
-        dc.SetTextColor(ToColor(text.color));
-        if (left == leftInside)
+        const CSize extent = m_dc.GetTextExtent(characters);
+        const CPoint wanted(LeftEnd(text, extent.cx), text.anchor.y);
+        const auto [area, isFree] = m_texts.Take(CRect(wanted, extent));
+        if (isFree && area.TopLeft() != wanted)
         {
-            dc.SetTextAlign(ToTextAlign(text.align));
-            dc.TextOut(text.anchor.x, text.anchor.y, characters);
-            return;
+            // Without the first row, which has no ink: a line may run there.
+            m_dc.FillSolidRect(area.left, area.top + 1, area.Width(), area.Height() - 1, kGround);
         }
-        dc.SetTextAlign(TA_TOP | TA_LEFT);
-        dc.SetBkColor(kGround);
-        dc.SetBkMode(OPAQUE);
-        dc.TextOut(leftInside, text.anchor.y, characters);
-        dc.SetBkMode(TRANSPARENT);
+        m_dc.SetTextColor(ToColor(text.color));
+        m_dc.TextOut(area.left, area.top, characters);
     }
 
     void operator()(const FillPrimitive& fill) const
@@ -89,20 +120,24 @@ struct PrimitivePainter
         CBrush brush;
         if (region.CreatePolygonRgn(corners.data(), static_cast<int>(corners.size()), WINDING) &&
             brush.CreateSolidBrush(ToColor(fill.color)))
-            dc.FillRgn(&region, &brush);
+            m_dc.FillRgn(&region, &brush);
     }
 
     void operator()(const RectPrimitive& rect) const
     {
         const CRect area(rect.left, rect.top, rect.right, rect.bottom);
-        dc.FillSolidRect(&area, ToColor(rect.color));
+        m_dc.FillSolidRect(&area, ToColor(rect.color));
     }
 
     void operator()(const OutlinePrimitive& outline) const
     {
         const std::vector<POINT> points = ToPoints(outline.points);
-        dc.Polyline(points.data(), static_cast<int>(points.size()));
+        m_dc.Polyline(points.data(), static_cast<int>(points.size()));
     }
+
+private:
+    CDC& m_dc;
+    TextPlaces m_texts;
 };
 
 /// Pen, colours, alignment and position of a context, put back at the end of a scope.
@@ -121,11 +156,13 @@ private:
 
 }  // namespace
 
-void PaintDisplayList(CDC& dc, const DisplayList& list, int width)
+void PaintDisplayList(CDC& dc, const DisplayList& list, CSize picture)
 {
     const ScopedState state(dc);
     ::SelectObject(dc.GetSafeHdc(), ::GetStockObject(BLACK_PEN));
     dc.SetBkMode(TRANSPARENT);
+    dc.SetTextAlign(TA_TOP | TA_LEFT);
+    PrimitivePainter painter(dc, picture);
     for (const Primitive& primitive : list.primitives)
-        std::visit(PrimitivePainter{dc, width}, primitive);
+        std::visit(painter, primitive);
 }

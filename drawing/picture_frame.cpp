@@ -71,15 +71,9 @@ bool CPictureFrame::ShowDrawing(const DisplayList& drawing)
         const ScopedSelect selected(memory, m_picture);
         const ScopedSelect font(memory, TextFont(*this));
         memory.FillSolidRect(&area, RGB(255, 255, 255));
-        PaintDisplayList(memory, drawing, area.Width());
+        PaintDisplayList(memory, drawing, area.Size());
     }
     return Show();
-}
-
-void CPictureFrame::Clear()
-{
-    m_picture.DeleteObject();
-    Show();
 }
 
 // The picture goes on the screen now, not with a later paint message: a caller may be in the middle of its own

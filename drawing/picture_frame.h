@@ -18,12 +18,9 @@ public:
     bool ShowBitmap(UINT bitmapId);
 
     /// Shows a drawing, made for the size of the client area, on white, its texts in the control's font and all of them
-    /// within the width of the client area. It is drawn out of sight and copied once.
+    /// within the client area. It is drawn out of sight and copied once.
     /// @return as above
     bool ShowDrawing(const DisplayList& drawing);
-
-    /// Back to an empty control.
-    void Clear();
 
 protected:
     afx_msg void OnDestroy();

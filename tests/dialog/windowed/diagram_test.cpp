@@ -229,7 +229,9 @@ protected:
         input.upperWord = LibraryText(52701);
         input.lowerWord = LibraryText(52702);
         input.mismatchLines = {LibraryText(52709), LibraryText(52710), LibraryText(52711)};
-        return PaintedLike(Area(), [&](CDC& dc) { PaintDisplayList(dc, LayoutChainDiagram(input), input.width); });
+        return PaintedLike(Area(), [&](CDC& dc) {
+            PaintDisplayList(dc, LayoutChainDiagram(input), CSize(input.width, input.height));
+        });
     }
 };
 
@@ -285,7 +287,7 @@ protected:
         ASSERT_GT(extent.cx, inset) << "it would be cut";
         ASSERT_GT(alone.Count(kBlack), 20);
         int different = 0;
-        for (int row = y; row < y + extent.cy; ++row)
+        for (int row = y + 1; row < y + extent.cy; ++row)  // letters begin below the first row, where a line may be
             for (int column = left; column < left + extent.cx; ++column)
                 different += shown.At(column, row) != alone.At(column, row) ? 1 : 0;
         EXPECT_EQ(different, 0);
@@ -301,6 +303,17 @@ TEST_F(DiagramOfLargeSizes, KeepsTheLimitsWithinItsArea)
         ExpectAtSide(Side::Left, y, L"1249.876543211", kLimitInset);
         ExpectAtSide(Side::Right, y, L"1250.123456789", kLimitInset);
     }
+}
+
+// Both on the left: the longer labels go below those of the upper limits.
+TEST_F(DiagramOfLargeSizes, KeepsTheLimitsOfOneSideApart)
+{
+    FillChainOf(L"1300", L"-0.183456", L"-0.223456");
+    ChooseMethod(kAnalytic);
+    int height = 0;
+    PaintedLike(Area(), [&](CDC& dc) { height = dc.GetTextExtent(CString(L"0")).cy; });
+    for (const int y : {40, 180})  // required and computed
+        ExpectAtSide(Side::Left, y + height, L"1249.776544", kLimitInset);
 }
 
 TEST_F(DiagramOfLargeSizes, KeepsASmallerNominalWithinItsArea)

@@ -20,8 +20,9 @@ Pixels VariableDialogTest::ExpectedPlot()
     input.mean = Record().mean;
     input.upperWord = ToUtf8(ResourceText(52701));
     input.lowerWord = ToUtf8(ResourceText(52702));
-    return PaintedLike(Window(IDC_VARIABLE_PLOT),
-                       [&](CDC& dc) { PaintDisplayList(dc, LayoutDensityPlot(input), input.width); });
+    return PaintedLike(Window(IDC_VARIABLE_PLOT), [&](CDC& dc) {
+        PaintDisplayList(dc, LayoutDensityPlot(input), CSize(input.width, input.height));
+    });
 }
 
 namespace

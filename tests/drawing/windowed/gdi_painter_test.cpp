@@ -1,5 +1,10 @@
 #include "drawing/gdi_painter.h"
 
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "drawing/display_list.h"
@@ -19,7 +24,7 @@ constexpr Rgb kRed{255, 0, 0};
 
 void Paint(WhiteCanvas& canvas, const DisplayList& list)
 {
-    PaintDisplayList(canvas.Dc(), list, canvas.Width());
+    PaintDisplayList(canvas.Dc(), list, CSize(canvas.Width(), canvas.Height()));
 }
 
 TEST(GdiPainter, PaintsALineBlackAndOnePixelWideUpToButWithoutItsEnd)
@@ -284,11 +289,11 @@ TEST_F(GdiPainterAtTheSides, AMovedTextHasAWhiteGroundOverALine)
         ::SetBkColor(canvas.Dc().GetSafeHdc(), RGB(1, 2, 3));
         PaintOverALine(canvas, moved.x, moved.align, m_text);
         const int height = SizeOf(m_text).cy;
-        for (int y = kTop; y < kTop + height; ++y)
+        for (int y = kTop + 1; y < kTop + height; ++y)
             for (int x = 0; x < m_extent; ++x)
                 ASSERT_EQ(canvas.At(moved.left + x, y), alone.At(x, y)) << x << ' ' << y;
-        EXPECT_EQ(canvas.At(moved.x, kTop - 1), kBlackPixel) << "the line above the text";
-        EXPECT_EQ(canvas.At(moved.left + 1, kTop - 1), kGreenPixel);
+        EXPECT_EQ(canvas.At(moved.x, kTop), kBlackPixel) << "the line above the letters";
+        EXPECT_EQ(canvas.At(moved.left + 1, kTop), kGreenPixel);
         EXPECT_EQ(canvas.At(kWidth - 1 - moved.left, kTop), kGreenPixel) << "the other side";
         EXPECT_LE(canvas.Count(kWhitePixel), m_extent * height);
     }
@@ -307,10 +312,62 @@ TEST_F(GdiPainterAtTheSides, ATextAfterAMovedOneHasNoGround)
     DisplayList list;
     list.Text(5, 0, TextAlign::Right, m_text);
     list.Rect(kGreen, 0, 0, kWidth, 40);
-    list.Text(kWidth / 2, kTop, TextAlign::Center, m_text);
+    list.Text(kWidth / 2, 20, TextAlign::Center, m_text);
     Paint(canvas, list);
     EXPECT_GT(canvas.Count(kBlackPixel), 10);
     EXPECT_EQ(canvas.Count(kWhitePixel), 0);
+}
+
+/// Texts in one row of a picture 60 pixels high, and those that are expected to be seen, by their left ends and tops.
+void ExpectPlaces(const DisplayList& list, const std::vector<std::pair<POINT, std::string>>& expected, int height = 60)
+{
+    WhiteCanvas canvas(200, height);
+    Paint(canvas, list);
+    WhiteCanvas apart(200, height);
+    ::SetBkMode(apart.Dc().GetSafeHdc(), TRANSPARENT);
+    for (const auto& [corner, text] : expected)
+        ::TextOutA(apart.Dc().GetSafeHdc(), corner.x, corner.y, text.c_str(), static_cast<int>(text.size()));
+    ASSERT_FALSE(apart.Drawn().IsRectEmpty());
+    ExpectTheSame(canvas, apart);
+}
+
+TEST_F(GdiPainterAtTheSides, ATextGoesBelowAnEarlierOneThatItWouldCover)
+{
+    const SIZE size = SizeOf(m_text);
+    DisplayList list;
+    list.Text(100, 5, TextAlign::Right, m_text);
+    list.Text(60, 5, TextAlign::Right, m_text);
+    list.Text(110, 5, TextAlign::Right, m_text);
+    ExpectPlaces(list, {{{100 - size.cx, 5}, m_text},
+                        {{std::max(0L, 60 - size.cx), 5 + size.cy}, m_text},
+                        {{110 - size.cx, 5 + 2 * size.cy}, m_text}});
+}
+
+TEST_F(GdiPainterAtTheSides, TextsSideBySideStay)
+{
+    const SIZE size = SizeOf(m_text);
+    DisplayList list;
+    list.Text(100, 5, TextAlign::Right, m_text);
+    list.Text(100, 5, TextAlign::Left, m_text);
+    list.Text(100, 5 + size.cy, TextAlign::Left, m_text);
+    ExpectPlaces(list, {{{100 - size.cx, 5}, m_text}, {{100, 5}, m_text}, {{100, 5 + size.cy}, m_text}});
+}
+
+TEST_F(GdiPainterAtTheSides, ATextStaysOverAnotherWhereThereIsNoRoomBelow)
+{
+    const SIZE size = SizeOf(m_text);
+    DisplayList list;
+    list.Text(100, 5, TextAlign::Left, m_text);
+    list.Text(110, 5, TextAlign::Left, m_text);
+    ExpectPlaces(list, {{{100, 5}, m_text}, {{110, 5}, m_text}}, 5 + 2 * size.cy - 1);
+}
+
+TEST_F(GdiPainterAtTheSides, ATextBeyondTheBottomMovesToIt)
+{
+    const SIZE size = SizeOf(m_text);
+    DisplayList list;
+    list.Text(100, 59, TextAlign::Left, m_text);
+    ExpectPlaces(list, {{{100, 60 - size.cy}, m_text}});
 }
 
 TEST_F(GdiPainterAtTheSides, AMovedTextKeepsItsColour)

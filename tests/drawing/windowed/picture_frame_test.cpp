@@ -168,7 +168,7 @@ void ExpectInFont(const DisplayList& drawing, HGDIOBJ font, const std::function<
 {
     WhiteCanvas expected(kWidth, kHeight);
     const ScopedSelect selected(expected.Dc(), font);
-    PaintDisplayList(expected.Dc(), drawing, kWidth);
+    PaintDisplayList(expected.Dc(), drawing, CSize(kWidth, kHeight));
     ASSERT_GT(expected.Count(RGB(0, 0, 0)), 10);
     for (int y = 0; y < kHeight; ++y)
         for (int x = 0; x < kWidth; ++x)
@@ -225,10 +225,10 @@ TEST_F(PictureFrame, ReplacesOnePictureByTheNext)
     EXPECT_EQ(At(20, 20), RGB(255, 255, 255));
 }
 
-TEST_F(PictureFrame, IsEmptyAfterClear)
+TEST_F(PictureFrame, IsEmptyAgainWithoutABitmap)
 {
     m_frame.ShowDrawing(GreenBlock());
-    m_frame.Clear();
+    m_frame.ShowBitmap(kNoBitmap);
     EXPECT_EQ(At(20, 20), Background());
     Uncover();
     EXPECT_EQ(At(20, 20), Background());
@@ -275,7 +275,7 @@ TEST_F(PictureFrame, LeavesNoGraphicsObjectsBehind)
     for (int i = 0; i < 20; ++i)
         showAll();
     EXPECT_EQ(GdiObjectCount(), before) << "each picture replaces the one before";
-    m_frame.Clear();
+    m_frame.ShowBitmap(kNoBitmap);
     EXPECT_EQ(GdiObjectCount(), before - 1) << "the picture alone is kept";
 }
 
