@@ -61,9 +61,10 @@ void AddColumns(CFListCtrl& list, bool tree)
     AddColumn(list, kColumnLowerDev, IDS_COLUMN_LOWER_DEV, kValueWidth);
 }
 
+// A result that was given before stands, although the window may still be there.
 void EndIfOpen(CDialog* child, int result)
 {
-    if (child != nullptr && ::IsWindow(child->m_hWnd))
+    if (child != nullptr && ::IsWindow(child->m_hWnd) && child->ContinueModal())
         child->EndDialog(result);
 }
 

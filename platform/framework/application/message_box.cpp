@@ -19,7 +19,8 @@ int AfxMessageBox(LPCWSTR text, UINT type, UINT)
 {
     const HWND owner = OwnerOfMessage();
     // The box disables its owner, and enables it again before it goes.
-    const DisabledOwners aboveOwner(owner == nullptr ? nullptr : ::GetWindow(owner, GW_OWNER));
+    DisabledOwners aboveOwner;
+    aboveOwner.Disable(owner == nullptr ? nullptr : ::GetWindow(owner, GW_OWNER));
     return ::MessageBoxW(owner, text, AfxGetAppName(), type);
 }
 

@@ -10,8 +10,6 @@
 /// One run of DoModal. It outlives the dialog's window and even the dialog object.
 struct ModalRun
 {
-    explicit ModalRun(HWND owner) : owners(owner) {}
-
     DisabledOwners owners;
     INT_PTR result = -1;
     bool ended = false;
@@ -105,8 +103,11 @@ CDialog::~CDialog()
 {
     if (m_hWnd != nullptr)
         CDialog::DestroyWindow();
-    if (m_modalRun != nullptr)
-        AbandonModalRun();
+    if (m_modalRun == nullptr)
+        return;
+    ModalRun& run = *m_modalRun;  // that never had a window
+    AbandonModalRun();
+    run.owners.Restore();  // now, for whoever opens another dialog in its place
 }
 
 BOOL CDialog::Create(UINT templateId, CWnd* parent)
@@ -138,11 +139,12 @@ INT_PTR CDialog::DoModal()
     if (m_modalRun != nullptr || m_hWnd != nullptr)
         return -1;
     const HWND owner = OwnerOfModal(m_parent);
-    ModalRun run(owner);
+    ModalRun run;
     m_modalRun = &run;
     try
     {
-        if (CreateFromTemplate(m_templateName, owner) && !run.ended)
+        run.owners.Disable(owner);  // they are told, and may end the run or delete this object
+        if (!run.ended && CreateFromTemplate(m_templateName, owner) && !run.ended)
         {
             const HWND window = m_hWnd;
             ::ShowWindow(window, SW_SHOWNORMAL);
@@ -172,7 +174,7 @@ void CDialog::EndModalRun(ModalRun& run)
 
 BOOL CDialog::DestroyWindow()
 {
-    if (m_modalRun != nullptr)
+    if (m_modalRun != nullptr && m_hWnd != nullptr)
         m_modalRun->owners.Restore();  // before the window goes, so that activation can return to the owner
     return CWnd::DestroyWindow();
 }

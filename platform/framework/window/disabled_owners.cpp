@@ -1,9 +1,10 @@
 #include "window/disabled_owners.h"
 
-DisabledOwners::DisabledOwners(HWND owner)
+void DisabledOwners::Disable(HWND owner)
 {
+    m_restored = false;
     HWND window = owner == nullptr ? nullptr : ::GetAncestor(owner, GA_ROOT);
-    while (window != nullptr)
+    while (window != nullptr && !m_restored)
     {
         if (::IsWindowEnabled(window))
         {
@@ -16,6 +17,7 @@ DisabledOwners::DisabledOwners(HWND owner)
 
 void DisabledOwners::Restore()
 {
+    m_restored = true;
     while (!m_disabled.empty())
     {
         const HWND window = m_disabled.back();

@@ -9,14 +9,17 @@
 class DisabledOwners
 {
 public:
-    explicit DisabledOwners(HWND owner);
+    DisabledOwners() = default;
     ~DisabledOwners() { Restore(); }
     DisabledOwners(const DisabledOwners&) = delete;
     DisabledOwners& operator=(const DisabledOwners&) = delete;
 
+    /// The windows are told while it runs, and may have everything enabled again: then it leaves the rest alone.
+    void Disable(HWND owner);
     /// To be called before the window that they wait for is destroyed: Windows can activate only an enabled window.
     void Restore();
 
 private:
     std::vector<HWND> m_disabled;
+    bool m_restored = false;
 };

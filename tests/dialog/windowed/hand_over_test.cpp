@@ -143,6 +143,30 @@ TEST_P(DisablingTheHost, MayOpenTheWindowAnewOfTheDialogWhoseChildIsToOpen)
     EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
 }
 
+// The child that the host opens meanwhile takes the place of the one that was to open.
+TEST_P(DisablingTheHost, MayRunTheCommandWhoseChildIsToOpen)
+{
+    int opened = 0;
+    bool hostEnabled = true;
+    host.OnDisabled([&] {
+        Command(GetParam().command, {[&] {
+                    ++opened;
+                    hostEnabled = ::IsWindowEnabled(host.m_hWnd) != FALSE;
+                    dialog->EndModal();
+                }});
+    });
+    Command(GetParam().command, std::vector<Step>{});
+    EXPECT_EQ(opened, 1);
+    const bool leavesTheHostDisabled =
+        GetParam().command == kDistributionChild.command || GetParam().command == kWeightChild.command;
+    EXPECT_EQ(hostEnabled, !leavesTheHostDisabled);
+    EXPECT_EQ(Child(), nullptr);
+    EXPECT_EQ(::GetActiveWindow(), Window());
+    EXPECT_TRUE(::IsWindowEnabled(Window()));
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+    PumpUntilIdle();
+}
+
 // These two kinds leave the host's window disabled while they are open.
 class EnablingTheHost : public EachChild
 {
@@ -200,6 +224,23 @@ TEST_P(EnablingTheHost, MayDestroyTheWindowOfTheDialogWhoseChildEnds)
     EXPECT_EQ(Window(), nullptr);
     EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
     PumpUntilIdle();
+}
+
+// What the user has chosen stands.
+TEST_P(EnablingTheHost, ComesTooLateToEndTheChildThatTheUserHasEnded)
+{
+    for (const int button : {GetParam().ok, GetParam().cancel})
+    {
+        ::SetFocus(Links().Window());
+        const int repaints = RepaintsOf([&] {
+            Command(GetParam().command, {[&] {
+                        host.OnEnabled([this] { dialog->EndModal(); });
+                        ClickChild(button);
+                    }});
+        });
+        EXPECT_EQ(repaints, 1);
+        EXPECT_EQ(::GetFocus(), host.m_hWnd);
+    }
 }
 
 TEST_P(EnablingTheHost, MayDeleteTheDialogWhoseChildIsReplaced)

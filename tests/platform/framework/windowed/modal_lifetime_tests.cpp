@@ -1,5 +1,6 @@
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -10,6 +11,7 @@
 #include "tests/support/framework_printers.h"
 #include "tests/support/planned_actions.h"
 #include "tests/support/recording_window.h"
+#include "tests/support/released_pages.h"
 
 namespace
 {
@@ -49,6 +51,25 @@ protected:
 BEGIN_MESSAGE_MAP(CShortDialog, CDialog)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
+
+/// Does something the next time that it is disabled.
+class OwnerThatActs : public RecordingWindow
+{
+public:
+    using RecordingWindow::RecordingWindow;
+
+    std::function<void()> m_onDisabled;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const LRESULT result = RecordingWindow::WindowProc(message, wParam, lParam);
+        if (const auto action =
+                message == WM_ENABLE && wParam == FALSE ? std::exchange(m_onDisabled, nullptr) : nullptr)
+            action();
+        return result;
+    }
+};
 }  // namespace
 
 TEST(ModalDialogLifetime, WindowDestroyedFromOutsideGivesMinusOne)
@@ -148,6 +169,68 @@ TEST(ModalDialogLifetime, ObjectMayBeDeletedByItsOwnHandler)
     };
     DoWhen(IsShown(*dialog), [dialog] { dialog->PostMessage(WM_COMMAND, IDOK); });
     EXPECT_EQ(dialog->DoModal(), -1);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST(ModalDialogLifetime, ObjectMayBeDeletedWhileItsOwnerIsDisabled)
+{
+    RecordingWindow main;
+    OwnerThatActs owner(300, 200, &main);
+    auto* dialog = new OnReleasedPages<CShortDialog>(&owner);
+    bool ownerEnabled = false;
+    owner.m_onDisabled = [&] {
+        delete dialog;
+        ownerEnabled = owner.IsWindowEnabled() != FALSE;
+    };
+    EXPECT_EQ(dialog->DoModal(), -1);
+    EXPECT_TRUE(ownerEnabled) << "for a dialog that takes its place";
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_TRUE(main.IsWindowEnabled());
+}
+
+TEST(ModalDialogLifetime, DialogEndedWhileItsOwnerIsDisabledNeverOpens)
+{
+    OwnerThatActs owner;
+    CShortDialog dialog(&owner);
+    bool opened = false;
+    dialog.m_onDestroy = [&] { opened = true; };
+    owner.m_onDisabled = [&] {
+        EXPECT_TRUE(dialog.ContinueModal());
+        dialog.EndDialog(8);
+    };
+    EXPECT_EQ(dialog.DoModal(), 8);
+    EXPECT_FALSE(opened);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST(ModalDialogLifetime, DialogRunsOnlyOnceAlthoughItIsRunAgainWhileItsOwnerIsDisabled)
+{
+    OwnerThatActs owner;
+    CShortDialog dialog(&owner);
+    INT_PTR second = 0;
+    owner.m_onDisabled = [&] {
+        DoWhen(IsShown(dialog), [&dialog] { dialog.EndDialog(IDOK); });
+        second = dialog.DoModal();
+    };
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(second, -1);
+}
+
+// It has no window yet, so that there is nothing to destroy and the owner stays disabled.
+TEST(ModalDialogLifetime, DestroyingTheWindowBeforeItIsThereChangesNothing)
+{
+    OwnerThatActs owner;
+    CShortDialog dialog(&owner);
+    bool ownerEnabled = true;
+    owner.m_onDisabled = [&] {
+        dialog.DestroyWindow();
+        DoWhen(IsShown(dialog), [&] {
+            ownerEnabled = owner.IsWindowEnabled() != FALSE;
+            dialog.EndDialog(IDOK);
+        });
+    };
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_FALSE(ownerEnabled);
     EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
