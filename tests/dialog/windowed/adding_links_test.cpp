@@ -323,6 +323,17 @@ TEST_F(AddingLinks, MoveTheFocusWithoutANotification)
     EXPECT_EQ(dialog->FocusNotifications(), before);
 }
 
+// The host answers with no link.
+TEST_F(AddingLinks, FocusTheChainAfterOkWithoutAnyLink)
+{
+    ASSERT_EQ(Links().FocusRow(), -1);
+    EXPECT_EQ(RepaintsOf([this] { Command(ID_LINK_ADD, {[this] { ClickChild(IDC_LINK_OK); }}); }), 1);
+    EXPECT_EQ(Links().FocusRow(), 0);
+    EXPECT_EQ(Links().Grid().FocusColumn(), 0);
+    EXPECT_EQ(Links().Rows(), 1);
+    EXPECT_TRUE(Objects().empty());
+}
+
 TEST_F(AddingLinks, RepaintOnceAfterOk)
 {
     EXPECT_EQ(RepaintsOf([this] { Confirm(Dimension(L"A1", L"25", L"0.2", L"-0.1"), &objects[0]); }), 1);

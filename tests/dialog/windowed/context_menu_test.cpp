@@ -230,4 +230,55 @@ TEST_F(ContextMenu, SurvivesThatTheDialogIsDeletedWhileItIsOpen)
     PumpUntilIdle();
 }
 
+// The grid that was clicked is inside its own message, in the menu's loop.
+TEST_F(ContextMenu, OfALinkThatIsClickedMayDeleteTheDialog)
+{
+    OpenWith(kAnalytic);
+    FillChain();
+    FocusOnLink(1);
+    DoWhen(IsMenuOpen, [this] { dialog.reset(); });
+    PostRightClick(Links().Window(), Links().NamePoint(1));
+    ASSERT_TRUE(WaitUntil([this] { return dialog == nullptr && !IsMenuOpen(); }));
+    PumpUntilIdle();
+    EXPECT_TRUE(Codes().empty());
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+}
+
+TEST_F(ContextMenu, OfTheClosingRowThatIsClickedMayDeleteTheDialog)
+{
+    OpenWith(kAnalytic);
+    FillChain();
+    ClickCell(Closing(), 0, 1);
+    DoWhen(IsMenuOpen, [this] { dialog.reset(); });
+    PostRightClick(Closing().Window(), Closing().CellCentre(0, 1));
+    ASSERT_TRUE(WaitUntil([this] { return dialog == nullptr && !IsMenuOpen(); }));
+    PumpUntilIdle();
+    EXPECT_TRUE(Codes().empty());
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+}
+
+// The command comes when the menu is through: the host deletes the dialog inside its notification.
+TEST_F(ContextMenu, MayLeadToANotificationThatDeletesTheDialog)
+{
+    for (const bool closing : {false, true})
+    {
+        dialog = std::make_unique<WatchedDialog>();
+        OpenWith(kAnalytic);
+        FillChain();
+        FocusOnLink(1);
+        const ListView list = closing ? Closing() : Links();
+        host.On(kEditBegins, [this] { dialog.reset(); });
+        DoWhen(IsMenuOpen, [this, closing] {
+            PickByMouse(closing ? ID_CONTEXT_CLOSING_EDIT : ID_CONTEXT_LINK_EDIT, WM_LBUTTONDOWN, WM_LBUTTONUP);
+        });
+        PostRightClick(list.Window(), closing ? list.CellCentre(0, 1) : list.NamePoint(1));
+        EXPECT_TRUE(WaitUntil([this] { return dialog == nullptr && !IsMenuOpen(); }));
+        PumpUntilIdle();
+        EXPECT_EQ(Codes(), (std::vector<WPARAM>{kEditBegins}));
+        host.AnswerNothing();
+        host.Forget();
+    }
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+}
+
 }  // namespace

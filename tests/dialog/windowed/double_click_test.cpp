@@ -113,4 +113,29 @@ TEST_F(DoubleClick, DoesNothingWithoutAClosingLink)
     EXPECT_EQ(CodesOfClosingLink(), kNothing) << "without a host object";
 }
 
+// The grid is inside its own message then, and goes with the dialog.
+TEST_F(DoubleClick, OnALinkMayDeleteTheDialog)
+{
+    OpenWith(kAnalytic);
+    FillChain();
+    host.On(kEditBegins, [this] { dialog.reset(); });
+    PostDoubleClick(Links().Window(), Links().NamePoint(1));
+    PumpUntilIdle();
+    EXPECT_EQ(dialog, nullptr);
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{kEditBegins}));
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+}
+
+TEST_F(DoubleClick, OnTheClosingRowMayDeleteTheDialog)
+{
+    OpenWith(kAnalytic);
+    FillChain();
+    host.On(kEditBegins, [this] { dialog.reset(); });
+    PostDoubleClick(Closing().Window(), Closing().CellCentre(0, 1));
+    PumpUntilIdle();
+    EXPECT_EQ(dialog, nullptr);
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{kEditBegins}));
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+}
+
 }  // namespace
