@@ -84,13 +84,13 @@ BOOL CWeightDlg::OnInitDialog()
     m_chainKey = m_list.AddTopRow(m_list.CreateRow(m_chain != nullptr ? m_chain->ChainText() : CString(), kChainImage));
     FillRows();
     m_list.ExpandRow(m_chainKey);
-    m_list.SetFocus();
     m_slider.SetRange(kSmallestWeight, kLargestWeight);
     m_slider.SetPos(kSmallestWeight);
     SelectRow(m_chainKey);
     if (const CFListCtrl::CFListRow* const preselected = PreselectedRow())
         SelectRow(preselected->Key());
-    return FALSE;  // the list has the focus
+    m_list.SetFocus();  // last: who loses the focus may close or delete the dialog
+    return FALSE;
 }
 
 // The object may be kept much longer than its window.

@@ -1,9 +1,34 @@
+#include <functional>
+#include <utility>
+
 #include "weight_dialog_test.h"
 
 namespace
 {
 
 using WeightOpening = WeightDialogTest;
+
+/// A window that has the focus and does something when it loses it.
+class FocusedWindow : public RecordingWindow
+{
+public:
+    explicit FocusedWindow(std::function<void()> action) : RecordingWindow(200, 100), m_action(std::move(action))
+    {
+        SetFocus();
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const LRESULT result = RecordingWindow::WindowProc(message, wParam, lParam);
+        if (message == WM_KILLFOCUS && m_action)
+            std::exchange(m_action, nullptr)();
+        return result;
+    }
+
+private:
+    std::function<void()> m_action;
+};
 
 TEST_F(WeightOpening, ListsFiveColumns)
 {
@@ -119,6 +144,26 @@ TEST_F(WeightOpening, SetsTheSliderFromOneToTen)
 TEST_F(WeightOpening, GivesTheListTheFocus)
 {
     Run({[] {}, [this] { EXPECT_EQ(Focused(), IDC_WEIGHT_LIST); }});
+}
+
+TEST_F(WeightOpening, MayBeDeletedByTheWindowThatItTakesTheFocusFrom)
+{
+    Preselect(1);
+    const FocusedWindow other([this] { dialog.reset(); });
+    const CModuleSkin skin(kModuleCalcTol);
+    EXPECT_EQ(dialog->DoModal(), -1);
+    EXPECT_EQ(dialog, nullptr);
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+}
+
+TEST_F(WeightOpening, MayBeDestroyedByTheWindowThatItTakesTheFocusFrom)
+{
+    Preselect(1);
+    const FocusedWindow other([this] { dialog->DestroyWindow(); });
+    const CModuleSkin skin(kModuleCalcTol);
+    EXPECT_EQ(dialog->DoModal(), -1);
+    EXPECT_EQ(dialog->m_hWnd, nullptr);
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
 }
 
 TEST_F(WeightOpening, SelectsALinkByItsHostObject)
