@@ -44,7 +44,8 @@ void CEditCloseTolDlg::DoDataExchange(CDataExchange* exchange)
 BOOL CEditCloseTolDlg::OnInitDialog()
 {
     CChildDialog::OnInitDialog();
-    m_entry.Open();
+    if (!m_entry.Open())
+        return FALSE;
     m_entry.EnableInputs(false);
     SetDlgParams(m_params.name, m_params.nominal, m_params.caption, m_params.weightFixed, m_params.tolField,
                  m_params.upperDev, m_params.lowerDev, m_params.dimKind, m_params.increasing);

@@ -55,7 +55,8 @@ BOOL CEditTolDlg::OnInitDialog()
     AddDirection(IDS_INCREASING);
     AddDirection(IDS_DECREASING);
     m_direction->SetCurSel(kIncreasing);
-    m_entry.Open();
+    if (!m_entry.Open())
+        return FALSE;
     EnableLinkInputs(false);
     m_entry.EnableInputs(false);
     SetDlgParams(m_params.name, m_params.nominal, m_params.caption, m_params.weightFixed, m_params.tolField,

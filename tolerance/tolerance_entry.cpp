@@ -32,19 +32,30 @@ ToleranceEntry::ToleranceEntry(CDialog& dialog, CTolBox& fieldBox, CButton& filt
 {
 }
 
-void ToleranceEntry::Open()
+bool ToleranceEntry::Open()
 {
-    if (CWnd* mainWindow = AfxGetMainWnd(); mainWindow != nullptr)
-        mainWindow->EnableWindow(TRUE);
     m_endedByHost = false;
     m_picture.SubclassDlgItem(static_cast<UINT>(m_controls.picture), &m_dialog);
     m_picture.ShowWindow(SW_HIDE);
     m_fieldBox.SetFieldStyles();
+    if (!EnableMainWindow())
+        return false;
     {
         const ScopedFlag writing(m_writing);
         FillTolBox(m_fieldBox, m_filter.GetCheck() == BST_CHECKED);
     }
     ShowFieldDeviations();
+    return true;
+}
+
+// The host hears of it at once. It may load a dimension, and it may end, destroy or delete the dialog.
+bool ToleranceEntry::EnableMainWindow()
+{
+    const LifetimeWatch watch(m_lifetime);
+    const HWND window = m_dialog.m_hWnd;
+    if (CWnd* const mainWindow = AfxGetMainWnd())
+        mainWindow->EnableWindow(TRUE);
+    return !watch.IsOver() && m_dialog.m_hWnd == window;
 }
 
 void ToleranceEntry::ShowTexts(const CDimParams& shown)

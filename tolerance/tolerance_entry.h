@@ -33,7 +33,9 @@ public:
 
     /// Takes over the controls of the new window, fills the box and shows the deviations of the record's field. The
     /// application's main window becomes usable, so that the user can go on picking dimensions.
-    void Open();
+    /// @return false when the host took that as the moment to destroy or delete the dialog: the caller leaves without
+    /// touching it
+    [[nodiscard]] bool Open();
 
     /// Shows the texts of a dimension.
     void ShowTexts(const CDimParams& shown);
@@ -67,6 +69,7 @@ public:
     void End(int result);
 
 private:
+    bool EnableMainWindow();
     void ShowFieldDeviations();
     void Enable(int control, bool enable);
 

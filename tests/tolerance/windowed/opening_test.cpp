@@ -1,3 +1,6 @@
+#include <functional>
+#include <utility>
+
 #include "tolerance_dialog_test.h"
 
 namespace
@@ -12,6 +15,29 @@ class Opening : public ToleranceDialogTest<Controls>
 };
 using Dialogs = testing::Types<LinkDialog, ClosingDialog>;
 TYPED_TEST_SUITE(Opening, Dialogs, );
+
+/// A disabled main window that does something when it is enabled.
+class MainWindow : public RecordingWindow
+{
+public:
+    explicit MainWindow(std::function<void()> action = nullptr) : RecordingWindow(200, 100), m_action(std::move(action))
+    {
+        EnableWindow(FALSE);
+        AfxGetThread()->m_pMainWnd = this;
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const LRESULT result = RecordingWindow::WindowProc(message, wParam, lParam);
+        if (message == WM_ENABLE && wParam != FALSE && m_action)
+            std::exchange(m_action, nullptr)();
+        return result;
+    }
+
+private:
+    std::function<void()> m_action;
+};
 
 const std::vector<int> kLinkControls{IDC_LINK_APPLY,     IDC_LINK_OK,        IDC_LINK_CANCEL, IDC_LINK_DIRECTION,
                                      IDC_LINK_UPPER_DEV, IDC_LINK_LOWER_DEV, IDC_LINK_NAME,   IDC_LINK_WEIGHT_FIXED,
@@ -96,6 +122,62 @@ TYPED_TEST(Opening, ShowsThePictureOfTheDimensionThatItOpensWith)
 TYPED_TEST(Opening, MakesTheMainWindowUsable)
 {
     this->Run({[this] { EXPECT_TRUE(::IsWindowEnabled(this->host.m_hWnd)); }});
+}
+
+TYPED_TEST(Opening, LeavesTheHostsWindowDisabledWhenAnotherIsTheMainWindow)
+{
+    const MainWindow mainWindow;
+    this->Run({[&] {
+        EXPECT_TRUE(::IsWindowEnabled(mainWindow.m_hWnd));
+        EXPECT_FALSE(::IsWindowEnabled(this->host.m_hWnd));
+    }});
+}
+
+TYPED_TEST(Opening, ShowsADimensionThatIsLoadedWhenTheMainWindowIsEnabled)
+{
+    CDimParams params = FittedDimension();
+    params.dimKind = 3;
+    const MainWindow mainWindow([&] { this->Load(params); });
+    this->Run({[&] {
+        EXPECT_EQ(this->Record(), params);
+        EXPECT_EQ(this->Text(TypeParam::kNominal), L"25");
+        EXPECT_EQ(this->Text(TypeParam::kField), L"H7");
+        EXPECT_EQ(this->Selected(), 1);
+        EXPECT_EQ(this->Text(TypeParam::kUpper), L"+0.021");
+        EXPECT_TRUE(this->IsEnabled(TypeParam::kField));
+        EXPECT_FALSE(this->IsEnabled(TypeParam::kUpper));
+        EXPECT_EQ(DifferentPixels(ShownPixels(this->Window(TypeParam::kPicture)), ResourcePicture(IDB_KIND_3)), 0);
+    }});
+}
+
+TYPED_TEST(Opening, MayBeDeletedWhenTheMainWindowIsEnabled)
+{
+    const MainWindow mainWindow([this] { this->dialog.reset(); });
+    const CModuleSkin skin(kModuleCalcTol);
+    EXPECT_EQ(this->dialog->DoModal(), -1);
+    EXPECT_EQ(this->dialog, nullptr);
+    EXPECT_TRUE(this->Calls().empty());
+    EXPECT_TRUE(::IsWindowEnabled(this->host.m_hWnd));
+}
+
+TYPED_TEST(Opening, MayBeDestroyedWhenTheMainWindowIsEnabled)
+{
+    const MainWindow mainWindow([this] { this->dialog->DestroyWindow(); });
+    const CModuleSkin skin(kModuleCalcTol);
+    EXPECT_EQ(this->dialog->DoModal(), -1);
+    EXPECT_EQ(this->dialog->m_hWnd, nullptr);
+    EXPECT_TRUE(this->Calls().empty());
+    EXPECT_TRUE(::IsWindowEnabled(this->host.m_hWnd));
+}
+
+TYPED_TEST(Opening, MayBeEndedWhenTheMainWindowIsEnabled)
+{
+    constexpr int kResult = 5;
+    const MainWindow mainWindow([this] { this->dialog->EndDialog(kResult); });
+    const CModuleSkin skin(kModuleCalcTol);
+    EXPECT_EQ(this->dialog->DoModal(), kResult);
+    EXPECT_TRUE(this->Codes().empty());
+    EXPECT_TRUE(::IsWindowEnabled(this->host.m_hWnd));
 }
 
 TYPED_TEST(Opening, FillsTheBoxWithEveryFieldUnfiltered)
