@@ -69,6 +69,14 @@ TEST(ProbabilisticMethod, TakesTheDeviationsFromItsLimitsWithoutRounding)
     EXPECT_EQ(result.lowerDevText, "-0.121824599");
 }
 
+// 5 +- 0.489897949 / 2: ten decimal places, nine would be off by 5e-10. The last bits of a sum near 5 are below 1e-15.
+TEST(ProbabilisticMethod, DoesNotRoundItsLimits)
+{
+    const ChainResult result = Probabilistic({Link(5, 0.6, 1), kExactZero}, {.law = 3});
+    EXPECT_NEAR(result.upperLimit, 5.2449489745, 1e-12);
+    EXPECT_NEAR(result.lowerLimit, 4.7550510255, 1e-12);
+}
+
 // Before rounding: nominal 6.0000000004, middle 6.0200000003 of the limits 9.9800000003 and 10.0600000003 less 4,
 // centre of grouping 6.0100000002.
 TEST(ProbabilisticMethod, RoundsNominalMiddleAndCentreOfGroupingToNineDecimalPlaces)
