@@ -26,7 +26,7 @@ struct FieldSpan
 int ColumnByValue(const FieldSpan& field, double value)
 {
     const double fraction = (value - field.lower) / (field.upper - field.lower);
-    return field.left + WholePixels(fraction * (field.right - field.left)).value_or(0);
+    return field.left + WholePixels(WholeWhenNearlySo(fraction * (field.right - field.left))).value_or(0);
 }
 
 bool IsWithin(const FieldSpan& field, double value)

@@ -12,7 +12,6 @@ namespace
 
 constexpr int kSideInset = 60;                // kept free beside the outermost marker, room for its labels
 constexpr double kSmallestSeparation = 40.0;  // between the two computed markers on one side
-constexpr double kEqualShare = 1e-9;          // of a deviation or its distance, below a thousandth of a pixel
 
 enum class Limit
 {
@@ -39,14 +38,6 @@ double LargestFinite(const DiagramDeviations& deviations)
             largest = std::max(largest, std::abs(deviation));
     }
     return largest;
-}
-
-// The same decimal number differs in the last bits of the double between a required and a computed deviation. A
-// distance that falls short of a whole number by no more than that must not lose a pixel.
-double WholeWhenNearlySo(double distance)
-{
-    const double whole = std::round(distance);
-    return std::abs(distance - whole) <= std::abs(whole) * kEqualShare ? whole : distance;
 }
 
 // Whether a deviation is the largest one, or equals it but for the last bits.

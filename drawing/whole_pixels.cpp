@@ -9,6 +9,12 @@ constexpr double kFarthestCoordinate = 134217728.0;
 
 }  // namespace
 
+double WholeWhenNearlySo(double distance)
+{
+    const double whole = std::round(distance);
+    return std::abs(distance - whole) <= std::abs(whole) * kEqualShare ? whole : distance;
+}
+
 std::optional<int> WholePixels(double distance)
 {
     if (!(std::abs(distance) <= kFarthestCoordinate))  // also not when it is NaN

@@ -105,6 +105,13 @@ TEST(AnalyticPicture, PutsTheLargestDeviationExactlyAtTheInset)
     }
 }
 
+// 139.9999986 pixels.
+TEST(AnalyticPicture, ADistanceALittleBelowAWholeNumberIsCut)
+{
+    EXPECT_EQ(MarkersFrom(40, LayoutChainDiagram(AnalyticInput({1, -0.99999999, 0.5, -0.5}))),
+              (std::vector<int>{340, 61}));
+}
+
 TEST(AnalyticPicture, LabelsStandBesideTheirMarkersAwayFromTheCentre)
 {
     const DisplayList list = LayoutChainDiagram(AnalyticInput({14, -7, 7, -14}));

@@ -78,6 +78,13 @@ TEST(SpreadMarkers, TheLargestDeviationIsFoundAmongDecimalNumbersOnBothSides)
     EXPECT_EQ(MarkerColumns({0.15, -(0.1 + 0.2), -0.24, -0.3}), (Columns{278, 44, 100, 60}));
 }
 
+// 1e-8 is ten times what the last bits may be taken for: ES0 is not the largest.
+TEST(SpreadMarkers, NothingMovesWhenTheRequiredDeviationIsALittleLarger)
+{
+    EXPECT_FALSE(PlaceSpreadMarkers({1, -0.5, 0.99999999, 0.9}, 400).areSpread);
+    EXPECT_FALSE(PlaceSpreadMarkers({0.5, -1, -0.9, -0.99999999}, 400).areSpread);
+}
+
 // The required markers at 110 and 50 pixels move to 132 and 60, in doubles to a bit below 132.
 TEST(SpreadMarkers, DecimalDeviationsMoveToWholePixels)
 {
@@ -115,6 +122,12 @@ TEST(SpreadMarkers, TheCutStandsWhereTheValueDividesTheBar)
 {
     EXPECT_EQ(Bar({13, -5, 14, 12}), "rect 61DC05 300 140 320 180\nrect FF0000 320 140 340 180\n");
     EXPECT_EQ(Bar({5, -13, -12, -14}), "rect FF0000 60 140 80 180\nrect 61DC05 80 140 100 180\n");
+}
+
+// As doubles, the value between 0.012 and 0.014 lies a bit before the middle of the 40 pixels.
+TEST(SpreadMarkers, ADecimalValueCutsTheBarAtAWholePixel)
+{
+    EXPECT_EQ(Bar({0.013, -0.005, 0.014, 0.012}), "rect 61DC05 300 140 320 180\nrect FF0000 320 140 340 180\n");
 }
 
 // Cuts at a quarter and three quarters of 40 pixels.

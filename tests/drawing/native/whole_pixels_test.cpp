@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 TEST(WholePixels, CutsTowardZero)
@@ -25,4 +26,24 @@ TEST(WholePixels, HasNoneBeyondTheCoordinatesOfASurface)
     EXPECT_EQ(WholePixels(-134217728.0), -134217728);
     EXPECT_EQ(WholePixels(134217729.0), std::nullopt);
     EXPECT_EQ(WholePixels(-1e300), std::nullopt);
+}
+
+// The share is 1e-9: of 100 it is 1e-7.
+TEST(WholeWhenNearlySo, TakesAwayTheLastBits)
+{
+    EXPECT_EQ(WholeWhenNearlySo(100 - 0.9e-7), 100.0);
+    EXPECT_EQ(WholeWhenNearlySo(100 + 0.9e-7), 100.0);
+    EXPECT_EQ(WholeWhenNearlySo(-100 + 0.9e-7), -100.0);
+}
+
+TEST(WholeWhenNearlySo, KeepsWhatIsFartherFromAWholeNumber)
+{
+    for (const double distance : {100 - 1.1e-7, 100 + 1.1e-7, -100 + 1.1e-7, 100.5, 1e-10})
+        EXPECT_EQ(WholeWhenNearlySo(distance), distance);
+}
+
+TEST(WholeWhenNearlySo, KeepsWhatIsNotFinite)
+{
+    EXPECT_EQ(WholeWhenNearlySo(std::numeric_limits<double>::infinity()), std::numeric_limits<double>::infinity());
+    EXPECT_TRUE(std::isnan(WholeWhenNearlySo(std::numeric_limits<double>::quiet_NaN())));
 }
