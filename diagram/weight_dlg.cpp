@@ -202,10 +202,11 @@ void CWeightDlg::EnableSlider(bool enable)
     m_slider.EnableWindow(enable ? TRUE : FALSE);
 }
 
+// A slider that is moved after the dialog has its result, as by a host that ended it, writes nothing any more.
 void CWeightDlg::OnHScroll(UINT code, UINT position, CScrollBar* bar)
 {
     CChildDialog::OnHScroll(code, position, bar);
-    if (bar != nullptr && bar->m_hWnd == m_slider.m_hWnd)
+    if (ContinueModal() && bar != nullptr && bar->m_hWnd == m_slider.m_hWnd)
         OnSliderMoved();
 }
 

@@ -132,6 +132,17 @@ TEST_F(EditingWeights, WritesTheLinksRecordWhateverEndsTheDialog)
     EXPECT_EQ(Links().Record(3)->weight, 1);
 }
 
+// The dialog ends once the message being handled is done with; until then the slider counts no more.
+TEST_F(EditingWeights, WritesNothingAfterTheHostHasEndedTheDialog)
+{
+    Command(ID_CONTEXT_LINK_WEIGHT, {[this] {
+                PressInSlider(VK_RIGHT);
+                dialog->EndModal();
+                PressInSlider(VK_END);
+            }});
+    EXPECT_EQ(Links().Record(2)->weight, 2);
+}
+
 TEST_F(EditingWeights, ShowsTheStoredWeightTheNextTime)
 {
     Command(ID_CONTEXT_LINK_WEIGHT, {[this] {
