@@ -17,6 +17,7 @@
 /// handles the acceptance. Afterwards the record is empty.
 ///
 /// The host may end, destroy or delete the dialog inside a message. Ended that way, it keeps the result it was given.
+/// A host that lets the user press OK or Cancel inside the report of an OK hears of that, too, and it gives the result.
 class CVariableDlg : public CChildDialog
 {
 public:

@@ -164,8 +164,9 @@ TEST_F(VariableEnding, SurvivesThatTheHostDeletesTheDialogWhileAMessageIsShown)
     EXPECT_TRUE(Codes().empty());
 }
 
-// A host that pumps messages while it is told: what the user did meanwhile comes to a dialog that has its result.
-TEST_F(VariableEnding, AsksTheHostAgainForASecondOkInsideTheFirst)
+// A host that pumps messages while it is told lets the user press a button inside the first press. The inner press is
+// done with first: its result counts, the outer one's comes to a dialog that has a result.
+TEST_F(VariableEnding, EndsWithCancelWhenThatIsPressedInsideOk)
 {
     bool first = true;
     OnNotification([&](UINT) {
@@ -173,8 +174,39 @@ TEST_F(VariableEnding, AsksTheHostAgainForASecondOkInsideTheFirst)
             Command(IDC_VARIABLE_CANCEL);
     });
     const INT_PTR result = Run({[this] { Click(IDC_VARIABLE_OK); }});
-    EXPECT_EQ(result, IDCANCEL) << "the first result counts";
+    EXPECT_EQ(result, IDCANCEL);
     EXPECT_EQ(Codes(), (std::vector<WPARAM>{kDistributionAccepted, kChildCancelled}));
+}
+
+TEST_F(VariableEnding, TellsTheHostOfASecondOkInsideTheFirstWithTheSameRecord)
+{
+    bool first = true;
+    std::vector<CVariableParams> told;
+    OnNotification([&](UINT) {
+        told.push_back(Record());
+        if (std::exchange(first, false))
+            Command(IDC_VARIABLE_OK);
+    });
+    const INT_PTR result = Run({[this] { Click(IDC_VARIABLE_OK); }});
+    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{kDistributionAccepted, kDistributionAccepted}));
+    EXPECT_EQ(told, (std::vector<CVariableParams>{UniformLink(), UniformLink()}));
+    EXPECT_EQ(Record(), CVariableParams{});
+}
+
+// The inner OK has emptied the record and ended the run.
+TEST_F(VariableEnding, IgnoresAThirdOkInsideTheFirst)
+{
+    bool first = true;
+    OnNotification([&](UINT) {
+        if (!std::exchange(first, false))
+            return;
+        Command(IDC_VARIABLE_OK);
+        Command(IDC_VARIABLE_OK);
+    });
+    const INT_PTR result = Run({[this] { Click(IDC_VARIABLE_OK); }});
+    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{kDistributionAccepted, kDistributionAccepted}));
 }
 
 // The first rounds fill the system's and the framework's caches.
