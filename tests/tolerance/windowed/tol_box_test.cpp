@@ -5,6 +5,7 @@
 #include "box_in_window.h"
 #include "tests/drawing/windowed/white_canvas.h"
 #include "tests/support/framework_printers.h"
+#include "tests/support/resource_count.h"
 
 namespace
 {
@@ -45,12 +46,29 @@ void DrawEntry(CTolBox& box, WhiteCanvas& canvas, UINT index, UINT state)
     box.DrawItem(&request);
 }
 
-/// The same by hand, in the default font of dialogs.
-void DrawText(WhiteCanvas& canvas, const CString& text, LONG weight, int background, int textColor)
+LOGFONTW DialogFont()
 {
-    const HDC dc = canvas.Dc().GetSafeHdc();
     LOGFONTW description{};
     ::GetObjectW(::GetStockObject(DEFAULT_GUI_FONT), sizeof description, &description);
+    return description;
+}
+
+/// Another face and another size.
+LOGFONTW OtherFont(LONG weight)
+{
+    LOGFONTW description{};
+    description.lfHeight = -15;
+    description.lfWeight = weight;
+    description.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
+    ::wcscpy(description.lfFaceName, L"Courier New");
+    return description;
+}
+
+/// The same by hand.
+void DrawText(WhiteCanvas& canvas, const CString& text, LOGFONTW description, LONG weight, int background,
+              int textColor)
+{
+    const HDC dc = canvas.Dc().GetSafeHdc();
     description.lfWeight = weight;
     const HFONT font = ::CreateFontIndirectW(&description);
     {
@@ -63,6 +81,12 @@ void DrawText(WhiteCanvas& canvas, const CString& text, LONG weight, int backgro
     ::DeleteObject(font);
 }
 
+/// In the default font of dialogs.
+void DrawText(WhiteCanvas& canvas, const CString& text, LONG weight, int background, int textColor)
+{
+    DrawText(canvas, text, DialogFont(), weight, background, textColor);
+}
+
 bool Same(const WhiteCanvas& left, const WhiteCanvas& right)
 {
     for (int y = 0; y < kHeight; ++y)
@@ -71,6 +95,29 @@ bool Same(const WhiteCanvas& left, const WhiteCanvas& right)
                 return false;
     return true;
 }
+
+/// While one is alive, a box has a font of its own.
+class OwnFont
+{
+public:
+    OwnFont(CTolBox& box, const LOGFONTW& description)
+        : m_box(box), m_before(box.GetFont()), m_font(::CreateFontIndirectW(&description))
+    {
+        m_box.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_font), FALSE);
+    }
+    ~OwnFont()
+    {
+        m_box.SetFont(m_before);
+        ::DeleteObject(m_font);
+    }
+    OwnFont(const OwnFont&) = delete;
+    OwnFont& operator=(const OwnFont&) = delete;
+
+private:
+    CTolBox& m_box;
+    CFont* m_before;
+    HFONT m_font;
+};
 
 class TolBox : public testing::Test
 {
@@ -101,6 +148,49 @@ TEST_F(TolBox, DrawsAnyOtherFieldInTheWeightOfTheBoxesFont)
     WhiteCanvas bold(kWidth, kHeight);
     DrawText(bold, L"H6", FW_BOLD, COLOR_WINDOW, COLOR_WINDOWTEXT);
     EXPECT_FALSE(Same(m_canvas, bold)) << "the font shows no difference between the weights";
+}
+
+TEST_F(TolBox, DrawsInTheFaceAndSizeThatItIsGiven)
+{
+    const OwnFont font(*m_box, OtherFont(FW_NORMAL));
+    DrawEntry(*m_box, m_canvas, 0, 0);
+    DrawText(m_expected, L"H6", OtherFont(FW_NORMAL), FW_NORMAL, COLOR_WINDOW, COLOR_WINDOWTEXT);
+    EXPECT_TRUE(Same(m_canvas, m_expected));
+    for (LOGFONTW other : {DialogFont(), OtherFont(FW_NORMAL)})
+    {
+        other.lfHeight = other.lfHeight == -15 ? -12 : -15;  // of the one the face, of the other the size differs
+        WhiteCanvas different(kWidth, kHeight);
+        DrawText(different, L"H6", other, FW_NORMAL, COLOR_WINDOW, COLOR_WINDOWTEXT);
+        EXPECT_FALSE(Same(m_canvas, different)) << "the fonts show no difference";
+    }
+}
+
+TEST_F(TolBox, DrawsAListedFieldBoldInTheFaceAndSizeThatItIsGiven)
+{
+    const OwnFont font(*m_box, OtherFont(FW_NORMAL));
+    DrawEntry(*m_box, m_canvas, 1, 0);
+    DrawText(m_expected, L"H7", OtherFont(FW_NORMAL), FW_BOLD, COLOR_WINDOW, COLOR_WINDOWTEXT);
+    EXPECT_TRUE(Same(m_canvas, m_expected));
+}
+
+TEST_F(TolBox, DrawsEveryFieldBoldInABoldFont)
+{
+    const OwnFont font(*m_box, OtherFont(FW_BOLD));
+    DrawEntry(*m_box, m_canvas, 0, 0);
+    DrawText(m_expected, L"H6", OtherFont(FW_BOLD), FW_BOLD, COLOR_WINDOW, COLOR_WINDOWTEXT);
+    EXPECT_TRUE(Same(m_canvas, m_expected));
+    DrawEntry(*m_box, m_canvas, 1, 0);
+    DrawText(m_expected, L"H7", OtherFont(FW_BOLD), FW_BOLD, COLOR_WINDOW, COLOR_WINDOWTEXT);
+    EXPECT_TRUE(Same(m_canvas, m_expected));
+}
+
+TEST_F(TolBox, KeepsNoGraphicsObjectOfAnEntry)
+{
+    DrawEntry(*m_box, m_canvas, 0, 0);
+    const int before = GdiObjectCount();
+    for (UINT entry = 0; entry < 50; ++entry)
+        DrawEntry(*m_box, m_canvas, entry % 2, entry % 3 == 0 ? ODS_SELECTED : 0);
+    EXPECT_EQ(GdiObjectCount(), before);
 }
 
 TEST_F(TolBox, DrawsASelectedEntryInHighlightColours)
