@@ -7,6 +7,7 @@
 BEGIN_MESSAGE_MAP(CEditCloseTolDlg, CChildDialog)
     ON_CBN_EDITCHANGE(IDC_CLOSING_FIELD, &CEditCloseTolDlg::OnFieldEdited)
     ON_CBN_SELCHANGE(IDC_CLOSING_FIELD, &CEditCloseTolDlg::OnFieldSelected)
+    ON_CBN_CLOSEUP(IDC_CLOSING_FIELD, &CEditCloseTolDlg::OnListClosed)
     ON_BN_CLICKED(IDC_CLOSING_FILTER, &CEditCloseTolDlg::OnFilterClicked)
     ON_BN_CLICKED(IDC_CLOSING_OK, &CEditCloseTolDlg::OnOK)
     ON_BN_CLICKED(IDC_CLOSING_CANCEL, &CEditCloseTolDlg::OnCancel)
@@ -84,6 +85,11 @@ void CEditCloseTolDlg::OnFieldEdited()
 void CEditCloseTolDlg::OnFieldSelected()
 {
     m_entry.OnFieldSelected();
+}
+
+void CEditCloseTolDlg::OnListClosed()
+{
+    m_entry.OnListClosed();
 }
 
 void CEditCloseTolDlg::OnFilterClicked()

@@ -61,6 +61,7 @@ bool ToleranceEntry::EnableMainWindow()
 void ToleranceEntry::ShowTexts(const CDimParams& shown)
 {
     const ScopedFlag writing(m_writing);
+    m_answeredField.reset();
     m_dialog.SetDlgItemText(m_controls.nominal, shown.nominal);
     m_dialog.SetDlgItemText(m_controls.caption, shown.caption);
     m_dialog.SetDlgItemText(m_controls.upperDev, shown.upperDev);
@@ -109,7 +110,7 @@ void ToleranceEntry::Store(const CDimParams& loaded)
 void ToleranceEntry::OnFieldEdited()
 {
     const CString text = m_fieldBox.EditText();
-    if (m_writing || text == m_record.tolField)
+    if (m_writing || m_answeredField == text)
         return;
     m_record.tolField = text;
     const int selected = m_fieldBox.GetCurSel();
@@ -130,6 +131,13 @@ void ToleranceEntry::OnFieldSelected()
         ShowFieldDeviations();
 }
 
+// Left by Esc, the list has had its selection changes, and the system may put the former text back without a word.
+void ToleranceEntry::OnListClosed()
+{
+    if (m_answeredField)
+        OnFieldEdited();
+}
+
 void ToleranceEntry::OnFilterClicked()
 {
     {
@@ -147,6 +155,7 @@ void ToleranceEntry::OnFilterClicked()
 // Deviations that the standard gives can't be typed over; for anything else the user types his own.
 void ToleranceEntry::ShowFieldDeviations()
 {
+    m_answeredField = m_record.tolField;
     const auto known = FieldDeviations(m_record.nominal, m_record.tolField);
     if (known)
     {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <afxwin.h>
 
 #include "drawing/picture_frame.h"
@@ -48,9 +50,10 @@ public:
     /// deviations of the field are shown and locked when the library knows it.
     void Store(const CDimParams& loaded);
 
-    // The user typed into the box, picked an entry, clicked the filter.
+    // The user typed into the box, picked an entry, left the list, clicked the filter.
     void OnFieldEdited();
     void OnFieldSelected();
+    void OnListClosed();
     void OnFilterClicked();
 
     /// Takes the field and the deviations as they are typed into the record.
@@ -79,7 +82,9 @@ private:
     CDimParams& m_record;
     const ToleranceControls m_controls;
     CPictureFrame m_picture;
-    bool m_writing = false;            // the box is changed by the program: its events are not the user's
+    bool m_writing = false;  // the box is changed by the program: its events are not the user's
+    std::optional<CString>
+        m_answeredField;               // what the edits show the deviations of; none when other texts were written
     bool m_answeredSelection = false;  // the latest edit change came from a picked entry, its deviations are shown
     bool m_endedByHost = false;
     Lifetime m_lifetime;

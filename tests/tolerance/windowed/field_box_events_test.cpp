@@ -6,6 +6,22 @@ namespace
 template <class Controls>
 class FieldBoxEvents : public ToleranceDialogTest<Controls>
 {
+protected:
+    /// A notification of the box, as some system sends it.
+    void Notify(int code) const
+    {
+        ::SendMessageW(this->dialog->m_hWnd, WM_COMMAND, MAKEWPARAM(Controls::kField, code),
+                       reinterpret_cast<LPARAM>(this->Window(Controls::kField)));
+    }
+
+    /// Writes into the box, which doesn't tell the dialog.
+    void WriteSilently(const wchar_t* text) const
+    {
+        const LONG_PTR procedure =
+            ::SetWindowLongPtrW(this->dialog->m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&::DefWindowProcW));
+        this->Write(Controls::kField, text);
+        ::SetWindowLongPtrW(this->dialog->m_hWnd, GWLP_WNDPROC, procedure);
+    }
 };
 using Dialogs = testing::Types<LinkDialog, ClosingDialog>;
 TYPED_TEST_SUITE(FieldBoxEvents, Dialogs, );
@@ -145,6 +161,56 @@ TYPED_TEST(FieldBoxEvents, IgnoreASelectionChangeWithoutASelection)
                         EXPECT_EQ(this->Record().tolField, L"zz");
                         EXPECT_TRUE(this->Calls().empty());
                     }});
+}
+
+// Some systems put the text back when the list is left by Esc, and tell only that it closes.
+TYPED_TEST(FieldBoxEvents, GoBackToTheTextThatTheClosedListLeaves)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        ::SendMessageW(this->Window(TypeParam::kField), CB_SETCURSEL, 2, 0);
+                        this->Notify(CBN_SELCHANGE);
+                        ASSERT_FALSE(this->IsEnabled(TypeParam::kUpper));
+                        this->WriteSilently(L"zz");
+                        ASSERT_EQ(this->Record().tolField, L"k6");
+                        this->Calls().clear();
+                        this->Notify(CBN_CLOSEUP);
+                        EXPECT_EQ(this->Text(TypeParam::kField), L"zz");
+                        EXPECT_EQ(this->Record().tolField, L"zz");
+                        EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "zz"}}));
+                        EXPECT_TRUE(this->IsEnabled(TypeParam::kUpper));
+                        EXPECT_TRUE(this->IsEnabled(TypeParam::kLower));
+                    }});
+}
+
+TYPED_TEST(FieldBoxEvents, DoNotAskWhenTheListClosesOnTheSameText)
+{
+    this->RunLoaded(FittedDimension(), {[this] {
+                        this->Calls().clear();
+                        this->Notify(CBN_CLOSEUP);
+                        EXPECT_TRUE(this->Calls().empty());
+                        EXPECT_EQ(this->Record().tolField, L"H7");
+                    }});
+}
+
+// The selection is put back, too, but its change is not told.
+TYPED_TEST(FieldBoxEvents, AskTheLibraryOnceForAPickAfterAListThatWasLeft)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                                          ::SendMessageW(this->Window(TypeParam::kField), CB_SETCURSEL, 2, 0);
+                                          this->Notify(CBN_SELCHANGE);
+                                          this->WriteSilently(L"zz");
+                                          this->Notify(CBN_CLOSEUP);
+                                          this->DropDown();
+                                      },
+                                      [this] {
+                                          this->Calls().clear();
+                                          this->PostPick(2);
+                                      },
+                                      [this] {
+                                          EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "k6"}}));
+                                          EXPECT_EQ(this->Record().tolField, L"k6");
+                                          EXPECT_FALSE(this->IsEnabled(TypeParam::kUpper));
+                                      }});
 }
 
 TYPED_TEST(FieldBoxEvents, ShowOnlyTheListedFieldsWithTheFilter)

@@ -79,6 +79,30 @@ TYPED_TEST(Keyboard, LeavesTheListOfFieldsByEscAndStays)
                                       }});
 }
 
+// Which of the fields is in the box then is the system's choice; record and deviations follow it.
+TYPED_TEST(Keyboard, AgreesWithTheBoxWhenTheListIsLeftByEscAfterArrows)
+{
+    for (const CDimParams& params : {FreeDimension(), FittedDimension()})
+    {
+        this->RunLoaded(params, {[this] {
+                                     ::SetFocus(this->FieldEdit());
+                                     this->DropDown();
+                                     PostKey(::GetFocus(), VK_DOWN);
+                                     PostKey(::GetFocus(), VK_DOWN);
+                                     PostKey(::GetFocus(), VK_ESCAPE);
+                                 },
+                                 [this] {
+                                     EXPECT_FALSE(this->IsDropped(TypeParam::kField));
+                                     const CString field = this->Text(TypeParam::kField);
+                                     EXPECT_FALSE(field.IsEmpty());
+                                     EXPECT_EQ(this->Record().tolField, field);
+                                     const bool known = field == L"H7" || field == L"k6";
+                                     EXPECT_EQ(this->IsEnabled(TypeParam::kUpper), !known);
+                                     EXPECT_EQ(this->IsEnabled(TypeParam::kLower), !known);
+                                 }});
+    }
+}
+
 TYPED_TEST(Keyboard, TakesAFieldOfTheListByEnterAndStays)
 {
     this->RunLoaded(FreeDimension(), {[this] {

@@ -245,6 +245,28 @@ TYPED_TEST(Loading, EndsBeforeTheRecordWhenNoMemoryContextCanBeMade)
     }});
 }
 
+// The edits are unlocked then, and the record still has the field before.
+TYPED_TEST(Loading, AsksForTheFieldBeforeWhenItIsTypedAfterALoadThatEndedEarly)
+{
+    CDimParams known = FreeDimension();
+    known.tolField = L"k6";
+    known.dimKind = 0;  // no picture, whose end would leave a graphics object to the next one
+    this->RunLoaded(known, {[this, known] {
+                        {
+                            const GdiExhaustion exhaustion;
+                            this->Load(FreeDimension());
+                        }
+                        ASSERT_EQ(this->Record(), known);
+                        ASSERT_TRUE(this->IsEnabled(TypeParam::kUpper));
+                        this->Calls().clear();
+                        this->Write(TypeParam::kField, L"k6");
+                        EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "k6"}}));
+                        EXPECT_EQ(this->Text(TypeParam::kUpper), L"+0.015");
+                        EXPECT_FALSE(this->IsEnabled(TypeParam::kUpper));
+                        EXPECT_FALSE(this->IsEnabled(TypeParam::kLower));
+                    }});
+}
+
 TEST_F(LinkLoading, ShowsLabelWeightAndDirection)
 {
     RunLoaded(
