@@ -5,6 +5,7 @@
 
 #include "platform/moduleskin/module_skin.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
+#include "tests/support/resource_count.h"
 
 namespace
 {
@@ -255,9 +256,10 @@ protected:
     }
 };
 
-const std::vector<std::function<void()>> kFailures = {&AfxThrowMemoryException, &AfxThrowResourceException,
-                                                      &AfxThrowInvalidArgException, [] { throw std::bad_alloc(); },
-                                                      [] { throw std::length_error("text"); }};
+const std::vector<std::function<void()>> kFailures = {
+    &AfxThrowMemoryException,       &AfxThrowResourceException,
+    &AfxThrowInvalidArgException,   [] { throw new CResourceException; },
+    [] { throw std::bad_alloc(); }, [] { throw std::length_error("text"); }};
 
 TEST_F(Creation, AnswersZeroAndShowsNothingWhenItFailsHalfway)
 {
@@ -282,6 +284,31 @@ TEST_F(Creation, CanBeTriedAgainAfterItFailedHalfway)
     EXPECT_EQ(ListView(::GetDlgItem(failing.m_hWnd, IDC_CHAIN_LIST)).Rows(), 1);
     EXPECT_EQ(ListView(::GetDlgItem(failing.m_hWnd, IDC_CLOSING_LIST)).Rows(), 1);
     failing.DestroyWindow();
+}
+
+// The first rounds fill the caches of the system and of the framework.
+TEST_F(Creation, LeavesNothingBehindWhenItFailsHalfway)
+{
+    FailingDialog failing;
+    const auto fail = [&](int rounds) {
+        for (int i = 0; i < rounds; ++i)
+        {
+            for (const std::function<void()>& failure : kFailures)
+            {
+                failing.failure = failure;
+                failing.Create(&host);
+            }
+            PumpUntilIdle();
+            AfxGetThread()->OnIdle(0);  // the end of temporary objects
+        }
+        failing.failure = nullptr;
+    };
+    fail(3);
+    const int gdiObjects = GdiObjectCount();
+    const std::size_t heapBlocks = HeapBlockCount();
+    fail(4);
+    EXPECT_EQ(GdiObjectCount(), gdiObjects);
+    EXPECT_EQ(HeapBlockCount(), heapBlocks);
 }
 
 // --- as a modal dialog of the framework, for a host that makes it with a parent ---
