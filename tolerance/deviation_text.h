@@ -17,9 +17,10 @@ struct DeviationPair
 /// A deviation is decimal digits with at most one "." or ",", a sign before them, spaces around them. "." is the
 /// decimal point; "," is it where the numeric locale of the process says so, else it ends the number ("0,5" is 0). No
 /// exponents. A number beyond the range of a double is malformed, too. Signs directly before the point are odd on
-/// purpose: "+.5" is 0.5, "-.5" is malformed. The pair needs lower < upper, and not two texts that are both 0. A
-/// deviation of nothing but spaces and zeros counts as empty here, and two empty ones fail; whether the user has typed
-/// anything at all is a question to the texts themselves.
+/// purpose: "+.5" is 0.5, "-.5" is malformed. Directly behind "+." or "+,", or one digit later, one more point or comma
+/// is taken and the number is read as far as it goes ("+..5" is 0, "+.5.5" is 0.5). The pair needs lower < upper, and
+/// not two texts that are both 0. A deviation of nothing but spaces and zeros counts as empty here, and two empty ones
+/// fail; whether the user has typed anything at all is a question to the texts themselves.
 ///
 /// @param texts  UTF-8; replaced by both normal forms on 0, else untouched
 /// @return       0, or the string resource that tells what is wrong: 51691 upper malformed (also when both are), 51692
