@@ -17,6 +17,7 @@ using Limit = FundamentalDeviation::Limit;
 // Lower limit deviation EI of A to H in all grades, upper limit deviation ES of J to M, micrometres (ISO 286-1, table
 // 2). Column JS is left out: its limits are half of IT to either side. K-8 is K up to IT8, K9- the coarser grades. K-8
 // and, up to IT8, M are printed with "+ Delta" over 3 to 500 mm.
+// Not confirmed: EF over 18 to 30 mm (28 or 25); CD, EF and FG over 10 mm (two sources); K9- over 3 mm (none or 0).
 // Laid out as printed, one row a size step:
 // clang-format off
 constexpr std::array<std::string_view, 11> kHoleLettersAToH = {"A", "B", "C", "CD", "D", "E", "EF", "F", "FG", "G", "H"};

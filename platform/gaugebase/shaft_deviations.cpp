@@ -15,6 +15,7 @@ using Limit = FundamentalDeviation::Limit;
 
 // Upper limit deviation es of a to h in all grades, lower limit deviation ei of j; micrometres (ISO 286-1, table 4).
 // Column js is left out: its limits are half of IT to either side.
+// Not confirmed: ef over 18 to 30 mm (-28 or -25); cd, ef and fg over 10 mm (two sources only).
 // Laid out as printed, one row a size step:
 // clang-format off
 constexpr std::array<std::string_view, 11> kShaftLettersAToH = {"a", "b", "c", "cd", "d", "e", "ef", "f", "fg", "g", "h"};

@@ -42,7 +42,7 @@ constexpr SizeTable<double, 20, 21> kTolerances = {{
 // clang-format on
 static_assert(IsContiguous(kTolerances));
 
-constexpr int kFinestGradeNotForTinySizes = 14;  // footnote: IT14 to IT18 are not used up to 1 mm
+constexpr int kFinestGradeNotForTinySizes = 14;  // footnote of the 1988 edition, not confirmed for 2010
 constexpr float kTinySize = 1;
 
 }  // namespace

@@ -9,6 +9,7 @@ namespace iso286
 namespace
 {
 
+// Not confirmed as preferred: R6, S6, T6, JS8, K8, M8, N8, P8, R8, E10, D11; r5, s5, t5, n7, p7, r7, t7.
 // Laid out as the standard groups them:
 // clang-format off
 constexpr std::size_t kHoleLetters = 28;

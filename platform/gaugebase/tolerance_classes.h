@@ -5,7 +5,9 @@
 #include <string_view>
 
 /// The ISO 286 system of limits and fits: its names, its printed tables and the limits that follow from them.
-/// Source of all facts: ISO 286-1:2010. Sizes are in millimetres, tolerances and deviations in micrometres.
+/// The facts are those of ISO 286-1:2010 as several published tables agree on them; the few groups of cells that could
+/// not be confirmed that way are marked where they stand. Sizes are in millimetres, tolerances and deviations in
+/// micrometres.
 namespace iso286
 {
 
@@ -15,8 +17,8 @@ std::span<const std::string_view> DeviationLetters();
 /// Standard tolerance grades from the finest on, as they stand in a code: "01", "0", "1" to "18".
 std::span<const std::string_view> Grades();
 
-/// Codes of the tolerance classes that the standard recommends, as its two figures print them: holes row by row from
-/// the finest grade on, then shafts.
+/// Codes of the tolerance classes that are offered as the recommended ones: holes row by row from the finest grade on,
+/// then shafts. They follow the standard's two figures; 18 of the 95 are not confirmed.
 std::span<const std::string_view> PreferredClasses();
 
 /// Number of grade IT01 in calculations; IT0 is 0, IT1 is 1 and so on.
