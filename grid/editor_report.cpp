@@ -4,12 +4,17 @@
 
 void EndByKey(CWnd& editor, EditedCell& cell, UINT key)
 {
+    if (cell.isReported)
+        return;
     cell.endingKey = key;
     editor.GetParent()->SetFocus();
 }
 
-void ReportEnd(CWnd& editor, const EditedCell& cell, UINT code, std::int32_t extra)
+bool ReportEnd(CWnd& editor, EditedCell& cell, UINT code, std::int32_t extra)
 {
+    if (cell.isReported)
+        return false;
+    cell.isReported = true;
     CWnd* const grid = editor.GetParent();
     NMFLISTCTRL report;
     report.hdr.hwndFrom = grid->GetSafeHwnd();
@@ -21,6 +26,7 @@ void ReportEnd(CWnd& editor, const EditedCell& cell, UINT code, std::int32_t ext
     report.extra = extra;
     editor.GetWindowText(report.text);
     grid->SendMessage(WM_NOTIFY, report.hdr.idFrom, reinterpret_cast<LPARAM>(&report));
+    return true;
 }
 
 bool GrowToText(CWnd& editor)

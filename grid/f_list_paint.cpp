@@ -1,3 +1,4 @@
+#include "grid/cell_text.h"
 #include "grid/f_list_ctrl.h"
 
 #include <algorithm>
@@ -7,7 +8,6 @@ namespace
 constexpr int kExpandedImage = 0;
 constexpr int kCollapsedImage = 1;
 constexpr int kFrameInset = 2;  // keeps a drawn check box clear of the grid line before it
-constexpr UINT kTextFormat = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_EXTERNALLEADING;
 
 /// Puts clipping, font and colours of a DC back at the end of a scope.
 class ScopedState
@@ -114,7 +114,7 @@ void CFListCtrl::PaintCell(CDC& dc, const CRect& cell, const CFListRow& row, int
     if (layout.imageLeft)
         DrawImage(dc, images, item.image, *layout.imageLeft, cell);
     PaintText(dc, item.text, CRect(layout.textLeft, cell.top, layout.textRight, cell.bottom), text,
-              kTextFormat | static_cast<UINT>(Column(column).centred), row.IsBold());
+              kCellTextFormat | static_cast<UINT>(Column(column).centred), row.IsBold());
 }
 
 void CFListCtrl::PaintText(CDC& dc, const CString& text, CRect area, COLORREF colour, UINT format, bool bold)

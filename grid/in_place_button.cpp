@@ -56,8 +56,8 @@ void CInPlaceButton::OnKillFocus(CWnd* newFocus)
 {
     const HWND window = m_hWnd;
     CButton::OnKillFocus(newFocus);
-    ReportEnd(*this, m_cell, kGridButtonClosed, 0);
-    ::DestroyWindow(window);
+    if (ReportEnd(*this, m_cell, kGridButtonClosed, 0))
+        ::DestroyWindow(window);
 }
 
 void CInPlaceButton::OnNcDestroy()

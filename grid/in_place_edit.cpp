@@ -60,8 +60,8 @@ void CInPlaceEdit::OnKillFocus(CWnd* newFocus)
 {
     const HWND window = m_hWnd;
     CEdit::OnKillFocus(newFocus);
-    ReportEnd(*this, m_cell, kGridEditClosed, 0);
-    ::DestroyWindow(window);
+    if (ReportEnd(*this, m_cell, kGridEditClosed, 0))
+        ::DestroyWindow(window);
 }
 
 void CInPlaceEdit::OnNcDestroy()

@@ -1,10 +1,11 @@
 #include "grid/in_place_list.h"
 
+#include "grid/cell_text.h"
+
 #include <algorithm>
 
 namespace
 {
-constexpr UINT kTextFormat = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_EXTERNALLEADING;
 constexpr int kButtonGap = 2;  // between the text and the drop-down button
 }  // namespace
 
@@ -16,6 +17,7 @@ BEGIN_MESSAGE_MAP(CInPlaceList, CComboBox)
     ON_WM_NCDESTROY()
     ON_WM_GETDLGCODE()
     ON_WM_KEYDOWN()
+    ON_MESSAGE(WM_MOUSEWHEEL, &CInPlaceList::OnWheel)
     // what the combo box tells
     ON_CONTROL_REFLECT(CBN_DROPDOWN, &CInPlaceList::OnDropDown)
     ON_CONTROL_REFLECT(CBN_SELCHANGE, &CInPlaceList::OnSelChange)
@@ -83,7 +85,7 @@ void CInPlaceList::OnPaint()
     dc.SetBkColor(m_look.back);
     CFont* const former = dc.SelectObject(&m_font);
     CRect textArea(client.left, client.top, client.right - (height + kButtonGap), client.bottom);
-    dc.DrawText(text, &textArea, kTextFormat | static_cast<UINT>(m_look.centred));
+    dc.DrawText(text, &textArea, kCellTextFormat | static_cast<UINT>(m_look.centred));
     dc.SelectObject(former);
     CRect arrow(client.right - height, client.top, client.right, client.bottom);
     dc.DrawFrameControl(&arrow, DFC_SCROLL, DFCS_SCROLLDOWN);
@@ -95,13 +97,9 @@ void CInPlaceList::OnKillFocus(CWnd* newFocus)
 {
     const HWND window = m_hWnd;
     CComboBox::OnKillFocus(newFocus);
-    if (m_reported)
-        return;
-    m_reported = true;
     const int selected = GetCurSel();
     const auto data = selected >= 0 ? static_cast<std::int32_t>(GetItemData(selected)) : 0;
-    ReportEnd(*this, m_cell, kGridListClosed, data);
-    if (::IsWindow(window))
+    if (ReportEnd(*this, m_cell, kGridListClosed, data) && ::IsWindow(window))
     {
         ::InvalidateRect(window, nullptr, TRUE);
         ::PostMessage(window, WM_CLOSE, 0, 0);
@@ -149,6 +147,14 @@ void CInPlaceList::OnKeyDown(UINT key, UINT repeat, UINT flags)
         ShowDropDown(TRUE);
     else
         CComboBox::OnKeyDown(key, repeat, flags);
+}
+
+// A closed combo box would take a turned wheel for its arrow keys, and those end the editor.
+LRESULT CInPlaceList::OnWheel(WPARAM keysAndDistance, LPARAM screenPoint)
+{
+    if (GetDroppedState())
+        return Default();
+    return GetParent()->SendMessage(WM_MOUSEWHEEL, keysAndDistance, screenPoint);
 }
 
 void CInPlaceList::OnDropDown()

@@ -38,6 +38,7 @@ protected:
     afx_msg void OnNcDestroy();
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg LRESULT OnWheel(WPARAM keysAndDistance, LPARAM screenPoint);
     afx_msg void OnDropDown();
     afx_msg void OnSelChange();
     afx_msg void OnSelEndCancel();
@@ -53,5 +54,4 @@ private:
     InPlaceListLook m_look;
     CFont m_font;
     bool m_cancelled = false;  // the open list is closing without a choice
-    bool m_reported = false;
 };

@@ -1,6 +1,9 @@
 #include "grid_window.h"
 #include "tests/support/message_pump.h"
 
+#include <algorithm>
+#include <ranges>
+
 // The closed field of the in-place list: background from the second line to the last but one, text in the focus text
 // colour, an arrow at the right.
 
@@ -117,6 +120,22 @@ TEST_F(ListEditorPainting, TextIsAlignedAsItsColumn)
     EXPECT_NEAR((centred.first + centred.second) / 2, kTextWidth / 2, 2);
     Open(2);
     EXPECT_LE(SpanOf(&IsInk, kTextWidth).first, 3);
+}
+
+TEST_F(ListEditorPainting, TextStandsInOneLineHalfwayBetweenTheEdges)
+{
+    window.entries = {{L"I", 1}, {L"I\nI", 2}};
+    Open(2);
+    std::vector<int> lines;
+    for (int y = 1; y < kHeight - 1; ++y)
+        if (std::ranges::any_of(std::views::iota(0, kTextWidth), [&](int x) { return IsInk(PixelAt(x, y)); }))
+            lines.push_back(y);
+    ASSERT_FALSE(lines.empty());
+    EXPECT_NEAR(lines.front(), kHeight - 1 - lines.back(), 1);
+    const int right = SpanOf(&IsInk, kTextWidth).second;
+    window.selectedEntry = 1;
+    Open(2);
+    EXPECT_GT(SpanOf(&IsInk, kTextWidth).second, right);  // the second stands beside the first
 }
 
 TEST_F(ListEditorPainting, LongTextStopsShortOfTheArrow)

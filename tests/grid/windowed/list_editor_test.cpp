@@ -415,6 +415,45 @@ TEST_F(ListEditor, ScrollingClosesItWithoutCommit)
     EXPECT_EQ(grid.FindRow(a)->Text(2), L"A2");
 }
 
+TEST_F(ListEditor, WheelOverTheClosedListScrollsTheGridAndLeavesTheFocusRow)
+{
+    for (int row = 0; row < 20; ++row)
+        window.AddTop(L"V");
+    const HWND list = OpenIt();
+    ASSERT_EQ(grid.GetTopIndex(), 0);
+    ::SendMessageW(list, WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+    EXPECT_FALSE(grid.HasEditor());
+    EXPECT_EQ(grid.FocusKey(), a);
+    EXPECT_GT(grid.GetTopIndex(), 0);
+    EXPECT_TRUE(window.TakeTold().empty());
+    PumpUntilIdle();
+    EXPECT_FALSE(::IsWindow(list));
+}
+
+TEST_F(ListEditor, WheelIsTheOpenLists)
+{
+    for (int row = 0; row < 20; ++row)
+        window.AddTop(L"V");
+    const HWND list = OpenIt();
+    PressKey(VK_RETURN);
+    ::SendMessageW(list, WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+    EXPECT_EQ(List(), list);
+    EXPECT_TRUE(IsDropped());
+    EXPECT_EQ(grid.GetTopIndex(), 0);
+}
+
+// Its window is still there then, without being the open editor.
+TEST_F(ListEditor, KeyAfterItsEndIsNobodys)
+{
+    const HWND former = OpenIt();
+    ::SendMessageW(former, WM_KEYDOWN, VK_DOWN, 0);
+    ASSERT_EQ(grid.FocusKey(), b);
+    const HWND open = List();
+    ASSERT_TRUE(::IsWindow(former));
+    ::SendMessageW(former, WM_KEYDOWN, VK_DOWN, 0);
+    EXPECT_EQ(List(), open);
+}
+
 TEST_F(ListEditor, RowDeletedUnderItClosesItWithoutCommit)
 {
     const HWND list = OpenIt();

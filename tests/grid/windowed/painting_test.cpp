@@ -1,7 +1,9 @@
 #include "grid_window.h"
 #include "tests/support/message_pump.h"
 
+#include <algorithm>
 #include <ostream>
+#include <ranges>
 
 namespace
 {
@@ -71,6 +73,19 @@ protected:
             for (int y = 2; y < cell.Height() - 2; ++y)
                 ink += PixelAt(cell.left + x, cell.top + y) == back ? 0 : 1;
         return ink;
+    }
+
+    /// The lines of a cell, from its top edge, with a pixel that isn't background.
+    std::vector<int> TextLines(RowKey key, int column, Colour back)
+    {
+        Paint();
+        const CRect cell = grid.GetCellRect(key, column);
+        std::vector<int> lines;
+        for (int y = 0; y < cell.Height() - 1; ++y)  // the grid line covers the last line
+            if (std::ranges::any_of(std::views::iota(2, cell.Width() - 2),
+                                    [&](int x) { return !(PixelAt(cell.left + x, cell.top + y) == back); }))
+                lines.push_back(y);
+        return lines;
     }
 
     /// Whether a pixel of the cell, off its edges, has just that colour.
@@ -373,4 +388,15 @@ TEST_F(GridPainting, CellsFollowScrollingBothWays)
     EXPECT_EQ(cell.left, 30);
     EXPECT_EQ(PixelAt(33, cell.CenterPoint().y), kFocusColour);
     EXPECT_EQ(PixelAt(20, cell.CenterPoint().y), highlight);
+}
+
+TEST_F(GridPainting, TextStandsInOneLineHalfwayBetweenTheEdges)
+{
+    grid.SetCellText(u, 2, L"I");
+    const std::vector<int> lines = TextLines(u, 2, window_);
+    ASSERT_FALSE(lines.empty());
+    EXPECT_NEAR(lines.front(), grid.GetCellRect(u, 2).Height() - 1 - lines.back(), 1);
+    const int right = TextSpan(u, 2, window_).second;
+    grid.SetCellText(u, 2, L"I\nI");
+    EXPECT_GT(TextSpan(u, 2, window_).second, right);  // the second stands beside the first
 }
