@@ -2,9 +2,10 @@
 
 int CFListCtrl::InsertFColumn(int index, LPCTSTR heading, int format, int width, bool tree)
 {
+    if (!CloseEditorAndStay())
+        return -1;
     if (index < 0 || index > ColumnCount())
         AfxThrowInvalidArgException();
-    CloseEditor();
 
     auto column = std::make_unique<CFListColumn>();
     column->tree = tree ? 1 : 0;

@@ -24,7 +24,8 @@ constexpr std::int32_t kCellCheckBox = 8;
 ///
 /// Rows, cells and columns are the grid's; the control shows the top rows and, below each expanded row, its children.
 /// Everything that happens is told to the parent by the records of grid_notifications.h, synchronously; the parent may
-/// change and delete rows meanwhile. Image 0 of the small image list marks an expanded row, image 1 a collapsed one.
+/// change and delete rows meanwhile, but not inside the list view's own LVN_INSERTITEM, LVN_DELETEITEM and
+/// LVN_DELETEALLITEMS. Image 0 of the small image list marks an expanded row, image 1 a collapsed one.
 /// Rows are addressed by key; an unknown key is ignored. A column that does not exist raises CInvalidArgException.
 /// An open editor closes without commit when a column or a row is added, a row deleted, expanded or collapsed, a cell
 /// brought into sight, the focus moved to another cell, or the row mode set.
@@ -41,7 +42,7 @@ public:
     // columns
     /// @param format  LVCFMT_...; only whether it is LVCFMT_CENTER matters to the cells, the header takes it whole
     /// @param tree    the column carries indentation and expand images; the last one inserted so is the tree column
-    /// @return        the index
+    /// @return        the index; -1 for a grid that is destroyed while its open editor closes
     int InsertFColumn(int index, LPCTSTR heading, int format, int width, bool tree);
     int ColumnCount() const { return static_cast<int>(m_columns.GetSize()); }
     CFListColumn& Column(int column) const { return *m_columns[column]; }
@@ -52,7 +53,8 @@ public:
     /// caller's until it is added.
     CFListRow* CreateRow(LPCTSTR text, int image, void* userData = nullptr);
     /// Each takes the row over and makes it the last of the top rows, or of the parent's children. A top row is shown
-    /// at once, a child when its parent is expanded and shown. An unknown parent: the row is deleted, the result null.
+    /// at once, a child when its parent is expanded and shown. An unknown parent row, or
+    /// a grid that is destroyed while its open editor closes: the row is deleted, the result null.
     RowKey AddTopRow(CFListRow* row);
     RowKey AddChildRow(RowKey parent, CFListRow* row);
     /// Deletes the row and all below it. A focus row among them hands the focus silently to the next sibling, else the
@@ -211,6 +213,7 @@ private:
         Cell
     };
     ClickResult Click(CPoint point);
+    bool RightClick(CPoint point);
     void AskForMenu(CPoint point);
     // editors
     bool OpenEditor(std::optional<TCHAR> typed);
@@ -219,6 +222,7 @@ private:
     bool OpenButton(RowKey key, int column);
     bool CanStillEdit(RowKey key, int column) const;
     bool BeginEditing(CWnd& editor, RowKey key, int column);
+    bool CloseEditorAndStay();
     void ForgetEditor(RowKey key, int column);
     void EndEditing(const NMFLISTCTRL& report, UINT code);
     // notifications
@@ -299,6 +303,7 @@ public:
     // cells; a missing column raises CInvalidArgException
     int ItemCount() const { return static_cast<int>(m_items.GetSize()); }
     CFListItem& Item(int column) const { return *m_items[column]; }
+    int ColumnOf(const CFListItem& item) const;  ///< item: a cell of this row
     CFListItem& InsertItem(int column, LPCTSTR text, std::int32_t kind);
     const CString& Text(int column) const { return Item(column).text; }
     int Image(int column) const { return Item(column).image; }

@@ -147,6 +147,14 @@ void CFListCtrl::CloseEditor()
     ::DestroyWindow(window);
 }
 
+// @return  false when the parent destroyed the grid while it was told that the grid has the keyboard again
+bool CFListCtrl::CloseEditorAndStay()
+{
+    const bool hadEditor = HasEditor();
+    CloseEditor();
+    return !hadEditor || GetSafeHwnd() != nullptr;
+}
+
 void CFListCtrl::ForgetEditor(RowKey key, int column)
 {
     if (key == m_editorKey && column == m_editorColumn)
@@ -196,9 +204,12 @@ void CFListCtrl::EndEditing(const NMFLISTCTRL& report, UINT code)
     if (endingKey == VK_RETURN)
     {
         const bool hasValue = code != kGridButtonPressed;
+        const CFListItem& cell = row->Item(column);
         const LRESULT answer = Notify(code, row, column, hasValue ? report.text : row->Text(column), report.extra);
-        if (hasValue && answer == 0)
-            SetCellText(key, column, report.text);
+        // The parent may have deleted the row, or inserted a column, which moves the cell.
+        const CFListRow* const told = FindRow(key);
+        if (hasValue && answer == 0 && told != nullptr)
+            SetCellText(key, told->ColumnOf(cell), report.text);
         if (code == kGridEndList && answer == kGridKeepFocus)
             return;
     }

@@ -84,7 +84,8 @@ void CFListCtrl::SetFocusColours(COLORREF back, COLORREF text)
 
 void CFListCtrl::MakeCellVisible(RowKey key, int column, bool partial)
 {
-    CloseEditor();
+    if (FindRow(key) != nullptr)
+        CloseEditor();
     const CFListRow* const row = FindRow(key);
     if (row == nullptr || !IsShown(*row))
         return;

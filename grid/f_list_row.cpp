@@ -31,6 +31,14 @@ bool CFListCtrl::CFListRow::IsWithin(const CFListRow& ancestor) const
     return row != nullptr;
 }
 
+int CFListCtrl::CFListRow::ColumnOf(const CFListItem& item) const
+{
+    int column = 0;
+    while (&Item(column) != &item)
+        ++column;
+    return column;
+}
+
 CFListCtrl::CFListItem& CFListCtrl::CFListRow::InsertItem(int column, LPCTSTR text, std::int32_t kind)
 {
     if (column < 0 || column > ItemCount())

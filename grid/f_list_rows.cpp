@@ -27,7 +27,11 @@ CFListCtrl::CFListRow* CFListCtrl::CreateRow(LPCTSTR text, int image, void* user
 
 RowKey CFListCtrl::AddTopRow(CFListRow* row)
 {
-    CloseEditor();
+    if (!CloseEditorAndStay())
+    {
+        delete row;
+        return nullptr;
+    }
     const RowKey key = Attach(row, nullptr);
     if (GetSafeHwnd() != nullptr)
         ShowRow(*row, GetItemCount());
@@ -36,7 +40,8 @@ RowKey CFListCtrl::AddTopRow(CFListRow* row)
 
 RowKey CFListCtrl::AddChildRow(RowKey parentKey, CFListRow* row)
 {
-    CloseEditor();
+    if (FindRow(parentKey) != nullptr)
+        CloseEditor();
     CFListRow* const parent = FindRow(parentKey);
     if (parent == nullptr)
     {
@@ -72,7 +77,8 @@ RowKey CFListCtrl::Attach(CFListRow* row, CFListRow* parent)
 
 void CFListCtrl::DeleteRow(RowKey key)
 {
-    CloseEditor();
+    if (FindRow(key) != nullptr)
+        CloseEditor();
     CFListRow* const row = FindRow(key);
     if (row == nullptr)
         return;
@@ -256,7 +262,8 @@ void CFListCtrl::CollapseRow(RowKey key)
         int last = IndexBehind(*row) - 1;
         HideChildren(*row, last);
     }
-    Notify(kGridRowCollapsed, row, m_focusColumn, CellText(row, m_focusColumn));
+    if (const CFListRow* const told = FindRow(key))
+        Notify(kGridRowCollapsed, told, m_focusColumn, CellText(told, m_focusColumn));
     // Only now: the parent may have moved the focus or deleted the row when it was told.
     const CFListRow* const focus = FocusRow();
     const CFListRow* const collapsed = FindRow(key);

@@ -144,6 +144,12 @@ TEST_F(GridFocus, UnknownRowLeavesFocusAndEditorAlone)
     ASSERT_TRUE(grid.OpenEditor());
     grid.SetFocusCell(&grid, 0, true);
     EXPECT_TRUE(grid.HasEditor());
+    grid.DeleteRow(&grid);
+    EXPECT_TRUE(grid.HasEditor());
+    EXPECT_EQ(grid.AddChildRow(&grid, grid.CreateRow(L"N", -1)), nullptr);
+    EXPECT_TRUE(grid.HasEditor());
+    grid.MakeCellVisible(&grid, 0, false);
+    EXPECT_TRUE(grid.HasEditor());
     EXPECT_EQ(grid.FocusKey(), b);
 }
 

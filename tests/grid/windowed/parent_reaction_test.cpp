@@ -2,6 +2,8 @@
 #include "tests/support/message_box_guard.h"
 #include "tests/support/message_pump.h"
 
+#include <algorithm>
+#include <iterator>
 #include <ostream>
 
 // What a parent does while it is told something: it may delete, add and show rows, move the focus to another cell whose
@@ -61,6 +63,16 @@ const Occasion kOccasions[] = {
     {"ButtonReleased", kGridButtonPressed, kButtonColumn, {}, &ReleaseOver},
 };
 
+/// The occasions on which an editor has just ended with Enter.
+std::vector<Occasion> EndsOfEditors()
+{
+    std::vector<Occasion> ends;
+    std::ranges::copy_if(kOccasions, std::back_inserter(ends), [](const Occasion& occasion) {
+        return occasion.code == kGridEndEdit || occasion.code == kGridEndList || occasion.code == kGridButtonPressed;
+    });
+    return ends;
+}
+
 RowKey LastTopRow(const CFListCtrl& grid)
 {
     const CFListCtrl::CFListRow* row = grid.FirstTopRow();
@@ -107,13 +119,14 @@ const Reaction kReactions[] = {
      [](GridWindow& window, RowKey) { window.grid.SetFocusCell(LastTopRow(window.grid), kButtonColumn, true); }, 303},
 };
 
-int EditorWindows(HWND grid)
+std::vector<HWND> EditorWindows(HWND grid)
 {
-    int editors = 0;
+    std::vector<HWND> editors;
     for (HWND child = ::GetWindow(grid, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
     {
         const int id = ::GetDlgCtrlID(child);
-        editors += id >= 301 && id <= 303 ? 1 : 0;
+        if (id >= 301 && id <= 303)
+            editors.push_back(child);
     }
     return editors;
 }
@@ -143,6 +156,14 @@ protected:
         if (occasion.then != nullptr)
             occasion.then(::GetFocus());
         PumpUntilIdle();
+    }
+
+    std::vector<std::wstring> TextsOf(RowKey key) const
+    {
+        std::vector<std::wstring> texts;
+        for (int column = 0; column < grid.ColumnCount(); ++column)
+            texts.emplace_back(grid.FindRow(key)->Text(column));
+        return texts;
     }
 
     RowKey t = window.AddTop(L"T");
@@ -176,7 +197,7 @@ TEST_P(ParentReactions, LeaveTheGridInOrder)
         return;
     }
     EXPECT_TRUE(window.IndicesAreExact());
-    EXPECT_EQ(EditorWindows(grid.GetSafeHwnd()), grid.HasEditor() ? 1 : 0);
+    EXPECT_EQ(EditorWindows(grid.GetSafeHwnd()).size(), grid.HasEditor() ? 1U : 0U);
     if (grid.HasEditor() || reaction.editor != 0)
     {
         EXPECT_TRUE(grid.HasEditor());
@@ -238,6 +259,63 @@ TEST_P(MessageOfTheParent, ChangesNothingOfWhatIsToldAndOpened)
 
 INSTANTIATE_TEST_SUITE_P(Everywhere, MessageOfTheParent, testing::ValuesIn(kOccasions),
                          [](const testing::TestParamInfo<Occasion>& info) { return std::string(info.param.name); });
+
+namespace
+{
+class EditorThatGetsTheKeyboardBack : public ReactingParent, public testing::WithParamInterface<Occasion>
+{
+};
+}  // namespace
+
+TEST_P(EditorThatGetsTheKeyboardBack, TellsItsEndOnceAndGoes)
+{
+    grid.SetFocusCell(t, GetParam().column, true);
+    window.answers[GetParam().code] = 1;
+    int told = 0;
+    window.onTold = [&](const NMFLISTCTRL& record) {
+        if (record.hdr.code == GetParam().code && ++told == 1)
+            ::SetFocus(EditorWindows(grid.GetSafeHwnd()).at(0));
+    };
+    LeadTo(GetParam());
+    EXPECT_EQ(told, 1);
+    EXPECT_FALSE(grid.HasEditor());
+    EXPECT_TRUE(EditorWindows(grid.GetSafeHwnd()).empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Everywhere, EditorThatGetsTheKeyboardBack, testing::ValuesIn(EndsOfEditors()),
+                         [](const testing::TestParamInfo<Occasion>& info) { return std::string(info.param.name); });
+
+namespace
+{
+using CommitIntoAMovedCell = ReactingParent;
+}
+
+TEST_F(CommitIntoAMovedCell, OfAnEditIsStoredThere)
+{
+    grid.SetFocusCell(t, kEditColumn, true);
+    PressKey(VK_RETURN);
+    TypeText(L"7");
+    window.onTold = [&](const NMFLISTCTRL& record) {
+        if (record.hdr.code == kGridEndEdit)
+            grid.InsertFColumn(0, L"new", LVCFMT_LEFT, 40, false);
+    };
+    PressKey(VK_RETURN);
+    EXPECT_EQ(TextsOf(t), (std::vector<std::wstring>{L"", L"T", L"7", L"T2", L""}));
+    EXPECT_EQ(grid.GetItemText(0, 2), L"7");
+}
+
+TEST_F(CommitIntoAMovedCell, OfAListIsStoredThere)
+{
+    grid.SetFocusCell(t, kListColumn, true);
+    window.onTold = [&](const NMFLISTCTRL& record) {
+        if (record.hdr.code == kGridEndList)
+            grid.InsertFColumn(1, L"new", LVCFMT_LEFT, 40, false);
+    };
+    for (const UINT key : {VK_RETURN, VK_DOWN, VK_RETURN})
+        PressKey(key);
+    EXPECT_EQ(TextsOf(t), (std::vector<std::wstring>{L"T", L"", L"T1", L"two", L""}));
+    EXPECT_EQ(grid.GetItemText(0, 3), L"two");
+}
 
 namespace
 {
@@ -413,6 +491,28 @@ TEST_F(ParentToldOfTheKeyboard, MayDestroyTheGrid)
     MoveToB([this] { grid.DestroyWindow(); });
     EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
     EXPECT_EQ(grid.FocusKey(), nullptr);
+}
+
+TEST_F(ParentToldOfTheKeyboard, MayDestroyTheGridThatGetsARow)
+{
+    window.onListTold = [&](UINT code) {
+        if (code == NM_SETFOCUS)
+            grid.DestroyWindow();
+    };
+    EXPECT_EQ(grid.AddTopRow(grid.CreateRow(L"C", -1)), nullptr);
+    EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(grid.RowCount(), 0);
+}
+
+TEST_F(ParentToldOfTheKeyboard, MayDestroyTheGridThatGetsAColumn)
+{
+    window.onListTold = [&](UINT code) {
+        if (code == NM_SETFOCUS)
+            grid.DestroyWindow();
+    };
+    EXPECT_EQ(grid.InsertFColumn(2, L"new", LVCFMT_LEFT, 40, false), -1);
+    EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(grid.ColumnCount(), 0);
 }
 
 TEST_F(ParentReaction, EditorOfAFocusRowThatIsNotShownStaysClosed)
