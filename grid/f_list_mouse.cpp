@@ -55,24 +55,36 @@ CFListCtrl::ClickResult CFListCtrl::Click(CPoint point)
 
 void CFListCtrl::OnRButtonDown(UINT flags, CPoint point)
 {
+    if (!RightClick(point))
+        CListCtrlWithCustomDraw::OnRButtonDown(flags, point);
+}
+
+// @return  false when there is no row at the point
+bool CFListCtrl::RightClick(CPoint point)
+{
     const std::optional<CellHit> hit = CellAt(point);
     if (!hit)
-    {
-        CListCtrlWithCustomDraw::OnRButtonDown(flags, point);
-        return;
-    }
+        return false;
     const RowKey key = RowAtIndex(hit->index)->Key();
     SetFocusRow(key, true);
     TakeFocus();
     if (FindRow(key) != nullptr)
         AskForMenu(point);
+    return true;
 }
 
 // The menu key and Shift+F10 give no point: the menu belongs below the focus cell then. The mouse's menu has been shown
-// when the button went down.
+// when the button went down, unless it went down on an open list or button, which hand the message on when it goes up.
 void CFListCtrl::OnContextMenu(CWnd* wnd, CPoint screenPoint)
 {
     const bool byKeyboard = screenPoint == CPoint(-1, -1);
+    if (!byKeyboard && wnd->GetSafeHwnd() != m_hWnd)
+    {
+        CPoint point = screenPoint;
+        ScreenToClient(&point);
+        if (RightClick(point))
+            return;
+    }
     if (byKeyboard && FocusRow() == nullptr)
         MoveFocus(GridMove::Up);  // to the first row, as with any key that moves
     if (!byKeyboard || FocusRow() == nullptr)

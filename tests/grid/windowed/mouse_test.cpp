@@ -287,6 +287,45 @@ TEST(GridMenuParent, IsAskedByTheMenuKeyInAnOpenButton)
     EXPECT_FALSE(parent.grid.HasEditor());
 }
 
+TEST(GridMenuParent, IsAskedForTheMenuByARightClickOnAnOpenListOrButton)
+{
+    for (const std::int32_t kind : {kCellList, kCellButton})
+        for (const int column : {0, 1})
+        {
+            SCOPED_TRACE(testing::Message() << "kind " << kind << ", column " << column);
+            MenuParent parent;
+            parent.entries = {{L"one", 1}};
+            parent.grid.SetRowMode(false);
+            parent.grid.InsertFColumn(0, L"", LVCFMT_LEFT, 100, true);
+            parent.grid.InsertFColumn(1, L"", LVCFMT_LEFT, 100, false);
+            parent.AddTop(L"A");
+            const RowKey b = parent.AddTop(L"B");
+            parent.grid.SetCellKind(b, column, kind);
+            parent.grid.SetFocusCell(b, column, false);
+            ASSERT_TRUE(parent.grid.HasEditor());
+            const CRect cell = parent.grid.GetCellRect(b, column);
+            CPoint point(cell.right - 5, cell.CenterPoint().y);
+            RightClick(parent.grid, point);
+            parent.grid.ClientToScreen(&point);
+            ASSERT_EQ(parent.menus.size(), 1U);
+            EXPECT_EQ(parent.menus[0].first, point);
+            EXPECT_EQ(parent.menus[0].second, 1000);
+            EXPECT_EQ(parent.focusAtMenu, b);
+            EXPECT_TRUE(parent.hadKeyboard);
+            EXPECT_FALSE(parent.grid.HasEditor());
+        }
+}
+
+TEST(GridMenuParent, IsNotAskedByARightClickOnTheHeader)
+{
+    MenuParent parent;
+    parent.grid.InsertFColumn(0, L"", LVCFMT_LEFT, 100, true);
+    parent.AddTop(L"A");
+    RightClick(parent.grid, CPoint(10, 3));
+    EXPECT_TRUE(parent.menus.empty());
+    EXPECT_EQ(parent.grid.FocusKey(), nullptr);
+}
+
 TEST(GridSelectionParent, IsToldOfEveryClickOnARow)
 {
     SelectionParent parent;
