@@ -291,6 +291,22 @@ TEST_F(EditEditor, ScrollingGoesOnBehindIt)
     EXPECT_EQ(grid.GetTopIndex(), 1);
 }
 
+TEST_F(EditEditor, WheelScrollsTheRowsWithAndWithoutIt)
+{
+    for (int row = 0; row < 40; ++row)
+        window.AddTop(L"V");
+    for (const bool open : {false, true})
+    {
+        SCOPED_TRACE(open ? "with an editor" : "without one");
+        grid.EnsureVisible(0, FALSE);
+        ASSERT_EQ(grid.GetTopIndex(), 0);
+        ASSERT_EQ(open && grid.OpenEditor(), open);
+        grid.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+        EXPECT_GT(grid.GetTopIndex(), 0);
+        EXPECT_FALSE(grid.HasEditor());
+    }
+}
+
 TEST_F(EditEditor, DraggedColumnClosesIt)
 {
     ASSERT_TRUE(grid.OpenEditor());

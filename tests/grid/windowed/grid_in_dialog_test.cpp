@@ -124,6 +124,22 @@ TEST_F(GridInDialog, EscapeIsTheOpenEditorsAndElseTheDialogs)
     EXPECT_EQ(dialog.cancelCount, 1);
 }
 
+TEST_F(GridInDialog, KeysOfAnOpenButtonAreTheGrids)
+{
+    for (const UINT key : {VK_RETURN, VK_ESCAPE, VK_TAB, VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN})
+    {
+        SCOPED_TRACE(key);
+        grid.SetCellKind(a, 1, kCellButton);
+        grid.SetFocusCell(a, 0, false);
+        grid.SetFocusCell(a, 1, false);
+        ASSERT_TRUE(grid.HasEditor());
+        PressKey(key);
+        EXPECT_TRUE(::GetFocus() == grid.GetSafeHwnd() || ::GetParent(::GetFocus()) == grid.GetSafeHwnd());
+    }
+    EXPECT_EQ(dialog.okCount, 0);
+    EXPECT_EQ(dialog.cancelCount, 0);
+}
+
 // "a" is the mnemonic of a button.
 TEST_F(GridInDialog, CharactersAreTheCells)
 {
