@@ -14,9 +14,14 @@ struct ChildSearch
 BOOL CALLBACK LookAtWindow(HWND window, LPARAM search)
 {
     auto& child = *reinterpret_cast<ChildSearch*>(search);
-    if (::GetWindow(window, GW_OWNER) == child.owner && ::IsWindowVisible(window) && ::IsWindowEnabled(window))
+    if (::GetWindow(window, GW_OWNER) != child.owner || !::IsWindowVisible(window) || !::IsWindowEnabled(window))
+        return TRUE;
+    // One that is being replaced may stand before the next one.
+    const auto* const dialog = dynamic_cast<CDialog*>(CWnd::FromHandlePermanent(window));
+    const bool goesOn = dialog != nullptr && dialog->ContinueModal();
+    if (goesOn || child.found == nullptr)
         child.found = window;
-    return child.found == nullptr;
+    return goesOn ? FALSE : TRUE;
 }
 
 /// The child dialog of a calculation dialog that takes input; null for none.
