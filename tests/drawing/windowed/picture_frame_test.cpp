@@ -245,6 +245,8 @@ TEST_F(PictureFrame, LeavesNothingToBePaintedLater)
 // The object may live on, as that of a dialog does whose window was destroyed.
 TEST_F(PictureFrame, KeepsNoPictureWithoutItsWindow)
 {
+    m_frame.ShowDrawing(GreenBlock());  // from the first time on the system keeps objects of its own
+    m_frame.ShowBitmap(kNoBitmap);
     const int before = GdiObjectCount();
     m_frame.ShowDrawing(GreenBlock());
     ASSERT_GT(GdiObjectCount(), before);
