@@ -104,7 +104,7 @@ public:
         const CSize extent = m_dc.GetTextExtent(characters);
         const CPoint wanted(LeftEnd(text, extent.cx), text.anchor.y);
         const auto [area, isFree] = m_texts.Take(CRect(wanted, extent));
-        if (isFree && area.TopLeft() != wanted)
+        if (isFree && area.left != wanted.x)
         {
             // Without the first row, which has no ink: a line may run there.
             m_dc.FillSolidRect(area.left, area.top + 1, area.Width(), area.Height() - 1, kGround);

@@ -343,6 +343,23 @@ TEST_F(GdiPainterAtTheSides, ATextGoesBelowAnEarlierOneThatItWouldCover)
                         {{110 - size.cx, 5 + 2 * size.cy}, m_text}});
 }
 
+TEST_F(GdiPainterAtTheSides, ATextMovedUpOrDownLeavesColoursAndLinesBelowIt)
+{
+    const SIZE size = SizeOf(m_text);
+    WhiteCanvas canvas(kWidth, 60);
+    DisplayList list;
+    list.Rect(kGreen, 0, 0, kWidth, 60);
+    list.Line(0, 58, kWidth, 58);
+    list.Text(100, 2, TextAlign::Left, m_text);
+    list.Text(110, 2, TextAlign::Left, m_text);
+    list.Text(10, 58, TextAlign::Left, m_text);
+    Paint(canvas, list);
+    EXPECT_EQ(canvas.Count(kWhitePixel), 0);
+    for (int x = 0; x < kWidth; ++x)
+        ASSERT_EQ(canvas.At(x, 58), kBlackPixel) << x;
+    EXPECT_GT(canvas.Count(kBlackPixel), kWidth + 3 * size.cx / 2) << "the letters";
+}
+
 TEST_F(GdiPainterAtTheSides, TextsSideBySideStay)
 {
     const SIZE size = SizeOf(m_text);
