@@ -112,7 +112,7 @@ public:
 
     // editors
     /// Opens the editor that the focus cell's kind asks for. False when none opens: row mode, text cell, veto, or the
-    /// keyboard focus can't be taken.
+    /// keyboard focus can't be taken, as while another editor closes.
     bool OpenEditor();
     bool HasEditor() const { return m_editor != nullptr; }
     /// Closes an open editor without commit.
@@ -245,6 +245,7 @@ private:
     CWnd* m_editor = nullptr;  // deletes itself
     RowKey m_editorKey = nullptr;
     int m_editorColumn = -1;
+    bool m_closingEditor = false;
 };
 
 /// What a column says about its cells.

@@ -20,6 +20,8 @@ bool CFListCtrl::OpenEditor()
 
 bool CFListCtrl::OpenEditor(std::optional<TCHAR> typed)
 {
+    if (m_closingEditor)
+        return false;
     CloseEditor();
     if (m_rowMode || FocusRow() == nullptr || !IsShown(*FocusRow()))
         return false;
@@ -134,13 +136,19 @@ bool CFListCtrl::BeginEditing(CWnd& editor, RowKey key, int column)
     return m_editor == &editor;
 }
 
+// The editor's report comes in while the grid takes the keyboard, and the list tells its parent: whoever closes an
+// editor counts on there being none, so no other one opens meanwhile.
 void CFListCtrl::CloseEditor()
 {
     if (m_editor == nullptr)
         return;
     const HWND window = m_editor->GetSafeHwnd();
     if (::GetFocus() == window)
-        SetFocus();  // its report comes in meanwhile
+    {
+        const bool former = std::exchange(m_closingEditor, true);
+        SetFocus();
+        m_closingEditor = former;
+    }
     if (m_editor == nullptr)
         return;
     ForgetEditor(m_editorKey, m_editorColumn);

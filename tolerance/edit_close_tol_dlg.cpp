@@ -7,6 +7,7 @@
 BEGIN_MESSAGE_MAP(CEditCloseTolDlg, CChildDialog)
     ON_CBN_EDITCHANGE(IDC_CLOSING_FIELD, &CEditCloseTolDlg::OnFieldEdited)
     ON_CBN_SELCHANGE(IDC_CLOSING_FIELD, &CEditCloseTolDlg::OnFieldSelected)
+    ON_CBN_DROPDOWN(IDC_CLOSING_FIELD, &CEditCloseTolDlg::OnListOpened)
     ON_CBN_CLOSEUP(IDC_CLOSING_FIELD, &CEditCloseTolDlg::OnListClosed)
     ON_BN_CLICKED(IDC_CLOSING_FILTER, &CEditCloseTolDlg::OnFilterClicked)
     ON_BN_CLICKED(IDC_CLOSING_OK, &CEditCloseTolDlg::OnOK)
@@ -85,6 +86,11 @@ void CEditCloseTolDlg::OnFieldEdited()
 void CEditCloseTolDlg::OnFieldSelected()
 {
     m_entry.OnFieldSelected();
+}
+
+void CEditCloseTolDlg::OnListOpened()
+{
+    m_entry.OnListOpened();
 }
 
 void CEditCloseTolDlg::OnListClosed()

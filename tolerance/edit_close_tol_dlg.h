@@ -35,6 +35,7 @@ protected:
 
     afx_msg void OnFieldEdited();
     afx_msg void OnFieldSelected();
+    afx_msg void OnListOpened();
     afx_msg void OnListClosed();
     afx_msg void OnFilterClicked();
     DECLARE_MESSAGE_MAP()

@@ -7,6 +7,7 @@
 BEGIN_MESSAGE_MAP(CEditTolDlg, CChildDialog)
     ON_CBN_EDITCHANGE(IDC_LINK_FIELD, &CEditTolDlg::OnFieldEdited)
     ON_CBN_SELCHANGE(IDC_LINK_FIELD, &CEditTolDlg::OnFieldSelected)
+    ON_CBN_DROPDOWN(IDC_LINK_FIELD, &CEditTolDlg::OnListOpened)
     ON_CBN_CLOSEUP(IDC_LINK_FIELD, &CEditTolDlg::OnListClosed)
     ON_BN_CLICKED(IDC_LINK_FILTER, &CEditTolDlg::OnFilterClicked)
     ON_BN_CLICKED(IDC_LINK_APPLY, &CEditTolDlg::OnApply)
@@ -121,6 +122,11 @@ void CEditTolDlg::OnFieldEdited()
 void CEditTolDlg::OnFieldSelected()
 {
     m_entry.OnFieldSelected();
+}
+
+void CEditTolDlg::OnListOpened()
+{
+    m_entry.OnListOpened();
 }
 
 void CEditTolDlg::OnListClosed()

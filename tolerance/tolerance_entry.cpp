@@ -62,6 +62,7 @@ void ToleranceEntry::ShowTexts(const CDimParams& shown)
 {
     const ScopedFlag writing(m_writing);
     m_answeredField.reset();
+    m_answeredSelection = false;
     m_dialog.SetDlgItemText(m_controls.nominal, shown.nominal);
     m_dialog.SetDlgItemText(m_controls.caption, shown.caption);
     m_dialog.SetDlgItemText(m_controls.upperDev, shown.upperDev);
@@ -124,11 +125,17 @@ void ToleranceEntry::OnFieldSelected()
     if (m_writing || selected == CB_ERR)
         return;
     const CString code = m_fieldBox.Code(selected);
-    const bool answered = m_answeredSelection && code == m_record.tolField;
+    const bool answered = m_answeredSelection && m_answeredField == code;
     m_record.tolField = code;
     m_answeredSelection = false;
     if (!answered)
         ShowFieldDeviations();
+}
+
+// What was picked before has had its answer; what is picked now is a selection of its own.
+void ToleranceEntry::OnListOpened()
+{
+    m_answeredSelection = false;
 }
 
 // Left by Esc, the list has had its selection changes, and the system may put the former text back without a word.

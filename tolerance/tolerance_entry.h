@@ -50,9 +50,10 @@ public:
     /// deviations of the field are shown and locked when the library knows it.
     void Store(const CDimParams& loaded);
 
-    // The user typed into the box, picked an entry, left the list, clicked the filter.
+    // The user typed into the box, picked an entry, opened the list, left it, clicked the filter.
     void OnFieldEdited();
     void OnFieldSelected();
+    void OnListOpened();
     void OnListClosed();
     void OnFilterClicked();
 

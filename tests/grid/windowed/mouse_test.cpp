@@ -157,6 +157,23 @@ TEST_F(GridMouse, DoubleClickOnAnEditCellOpensItsEditorInstead)
     EXPECT_NE(Editor(301), nullptr);
 }
 
+TEST_F(GridMouse, DoubleClickOnAListCellAsksOnceAndOpensItsEditorInstead)
+{
+    window.entries = {{L"one", 1}};
+    grid.SetCellKind(u, 2, kCellList);
+    DoubleClick(grid, CellCentre(u, 2));
+    EXPECT_EQ(window.TakeTold(), (Told{"1116 U 2 \"U2\"", "1121 U 2 \"U2\""}));
+    EXPECT_NE(Editor(302), nullptr);
+}
+
+TEST_F(GridMouse, DoubleClickOnAButtonCellOpensItsEditorInstead)
+{
+    grid.SetCellKind(u, 2, kCellButton);
+    DoubleClick(grid, CellCentre(u, 2));
+    EXPECT_EQ(window.TakeTold(), (Told{"1116 U 2 \"U2\""}));
+    EXPECT_NE(Editor(303), nullptr);
+}
+
 TEST_F(GridMouse, DoubleClickOnAForbiddenEditCellIsTheParentsCommand)
 {
     grid.SetCellKind(u, 2, kCellEdit);

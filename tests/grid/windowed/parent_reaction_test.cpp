@@ -479,6 +479,32 @@ TEST_F(ParentToldOfTheKeyboard, MayDeleteTheRowThatTheFocusGoesTo)
     EXPECT_EQ(window.ShownNames(), "A");
 }
 
+TEST_F(ParentToldOfTheKeyboard, OpensNoEditorWhileAnotherOneCloses)
+{
+    bool opened = true;
+    MoveToB([&] {
+        grid.SetCellKind(b, 1, kCellEdit);
+        grid.SetFocusCell(b, 1, false);
+        opened = grid.OpenEditor();
+    });
+    EXPECT_FALSE(opened);
+    EXPECT_TRUE(EditorWindows(grid.GetSafeHwnd()).empty());
+    EXPECT_EQ(grid.FocusKey(), b);
+    EXPECT_EQ(grid.FocusColumn(), 2);
+}
+
+TEST_F(ParentToldOfTheKeyboard, KeepsNoEditorOfADeletedRow)
+{
+    window.onListTold = [&](UINT code) {
+        if (code == NM_SETFOCUS)
+            grid.OpenEditor();
+    };
+    grid.DeleteRow(a);
+    EXPECT_FALSE(grid.HasEditor());
+    EXPECT_TRUE(EditorWindows(grid.GetSafeHwnd()).empty());
+    EXPECT_EQ(window.ShownNames(), "B");
+}
+
 TEST_F(ParentToldOfTheKeyboard, MaySwitchToRows)
 {
     MoveToB([this] { grid.SetRowMode(true); });

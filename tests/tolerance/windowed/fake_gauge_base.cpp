@@ -43,5 +43,5 @@ int GetDimTol(float nominal, const char* field, float* lower, float* upper)
         return 0;
     *lower = found->second.lower;
     *upper = found->second.upper;
-    return 1;
+    return library.knownResult;
 }

@@ -33,6 +33,7 @@ struct FakeGaugeBase
     std::vector<CString> second;
     std::vector<CString> shortList;
     int listResult = 1;
+    int knownResult = 1;  // for a field that it knows
     std::map<std::string, LibraryDeviations> fields;
 
     int listCalls = 0;

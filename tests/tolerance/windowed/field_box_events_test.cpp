@@ -1,3 +1,4 @@
+#include "tests/drawing/windowed/gdi_exhaustion.h"
 #include "tolerance_dialog_test.h"
 
 namespace
@@ -17,9 +18,34 @@ protected:
     /// Writes into the box, which doesn't tell the dialog.
     void WriteSilently(const wchar_t* text) const
     {
+        Silently([&] { this->Write(Controls::kField, text); });
+    }
+
+    /// Selects an entry, which doesn't tell the dialog.
+    void SelectSilently(int index) const
+    {
+        Silently([&] { ::SendMessageW(this->Window(Controls::kField), CB_SETCURSEL, static_cast<WPARAM>(index), 0); });
+    }
+
+    /// An entry is picked, then the list is left by Esc on a system that puts text and selection back untold.
+    void PickAndLeave(int picked, int former, const wchar_t* formerText) const
+    {
+        ::SendMessageW(this->Window(Controls::kField), CB_SETCURSEL, static_cast<WPARAM>(picked), 0);
+        Notify(CBN_SELCHANGE);
+        SelectSilently(former);
+        ASSERT_EQ(this->Text(Controls::kField), formerText);
+        ASSERT_EQ(this->Selected(), former);
+        Notify(CBN_CLOSEUP);
+        ASSERT_EQ(this->Record().tolField, formerText);
+    }
+
+private:
+    template <class Change>
+    void Silently(const Change& change) const
+    {
         const LONG_PTR procedure =
             ::SetWindowLongPtrW(this->dialog->m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&::DefWindowProcW));
-        this->Write(Controls::kField, text);
+        change();
         ::SetWindowLongPtrW(this->dialog->m_hWnd, GWLP_WNDPROC, procedure);
     }
 };
@@ -211,6 +237,43 @@ TYPED_TEST(FieldBoxEvents, AskTheLibraryOnceForAPickAfterAListThatWasLeft)
                                           EXPECT_EQ(this->Record().tolField, L"k6");
                                           EXPECT_FALSE(this->IsEnabled(TypeParam::kUpper));
                                       }});
+}
+
+// Entry 1 is H7 again, and the text that came back was answered; the pick that follows is a new one all the same.
+TYPED_TEST(FieldBoxEvents, AskTheLibraryOnceForAPickOfTheEntryThatALeftListPutBack)
+{
+    this->RunLoaded(FittedDimension(), {[this] {
+                                            this->PickAndLeave(2, 1, L"H7");
+                                            this->DropDown();
+                                        },
+                                        [this] {
+                                            this->Calls().clear();
+                                            this->PostPick(1);
+                                        },
+                                        [this] {
+                                            EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "H7"}}));
+                                        }});
+}
+
+// A load that ends early shows other texts, but the record still has the field that was answered.
+TYPED_TEST(FieldBoxEvents, AskTheLibraryForAPickOfTheFormerEntryAfterALoadThatEndedEarly)
+{
+    CDimParams known = FittedDimension();
+    known.dimKind = 0;  // no picture, whose end would leave a graphics object to the next one
+    this->RunLoaded(known, {[this] {
+                        this->PickAndLeave(2, 1, L"H7");
+                        {
+                            const GdiExhaustion exhaustion;
+                            this->Load(FreeDimension());
+                        }
+                        ASSERT_EQ(this->Record().tolField, L"H7");
+                        ASSERT_TRUE(this->IsEnabled(TypeParam::kUpper));
+                        this->SelectSilently(1);
+                        this->Calls().clear();
+                        this->Notify(CBN_SELCHANGE);
+                        EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "H7"}}));
+                        EXPECT_FALSE(this->IsEnabled(TypeParam::kUpper));
+                    }});
 }
 
 TYPED_TEST(FieldBoxEvents, ShowOnlyTheListedFieldsWithTheFilter)

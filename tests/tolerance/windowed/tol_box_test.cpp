@@ -14,7 +14,7 @@ constexpr int kWidth = 100;
 constexpr int kHeight = 24;
 const RECT kItem{4, 3, 90, 20};
 
-/// Counts what the box is asked to draw as an entry.
+/// Counts what the box is asked to draw as an entry, and what it leaves to the system.
 class CountingBox : public CTolBox
 {
 public:
@@ -25,6 +25,15 @@ public:
     }
 
     int drawn = 0;
+    int leftToTheSystem = 0;
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_DRAWITEM)
+            ++leftToTheSystem;
+        return CTolBox::DefWindowProc(message, wParam, lParam);
+    }
 };
 
 DRAWITEMSTRUCT Request(HDC dc, UINT index, UINT state)
@@ -217,6 +226,20 @@ TEST_F(TolBox, FillsTheWholeRectangleOfAnEntry)
     EXPECT_EQ(m_canvas.At(kItem.right - 1, kItem.bottom), RGB(0, 0, 0));
 }
 
+TEST_F(TolBox, DoesNotClipTheTextOfAnEntryToItsRectangle)
+{
+    const CString wide(L"MMMMMMMMMMMMMMMMMMMM");
+    m_box->Insert(2, wide, false);
+    DrawEntry(*m_box, m_canvas, 2, 0);
+    DrawText(m_expected, wide, FW_NORMAL, COLOR_WINDOW, COLOR_WINDOWTEXT);
+    EXPECT_TRUE(Same(m_canvas, m_expected));
+    bool ink = false;
+    for (int y = kItem.top; y < kItem.bottom; ++y)
+        for (int x = kItem.right; x < kWidth; ++x)
+            ink |= m_canvas.At(x, y) != RGB(255, 255, 255);
+    EXPECT_TRUE(ink) << "right of the rectangle";
+}
+
 TEST_F(TolBox, PutsTheFontOfTheContextBack)
 {
     const HGDIOBJ before = ::GetCurrentObject(m_canvas.Dc().GetSafeHdc(), OBJ_FONT);
@@ -229,6 +252,7 @@ TEST_F(TolBox, DrawsTheEntryOfADrawingMessage)
     DRAWITEMSTRUCT request = Request(m_canvas.Dc().GetSafeHdc(), 1, 0);
     m_box->SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&request));
     EXPECT_EQ(m_box->drawn, 1);
+    EXPECT_EQ(m_box->leftToTheSystem, 0);
 }
 
 TEST_F(TolBox, LeavesTheEditPartToTheSystem)
@@ -237,6 +261,7 @@ TEST_F(TolBox, LeavesTheEditPartToTheSystem)
     request.hwndItem = m_box->GetComboBoxCtrl()->m_hWnd;
     m_box->SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&request));
     EXPECT_EQ(m_box->drawn, 0);
+    EXPECT_EQ(m_box->leftToTheSystem, 1);
 }
 
 TEST_F(TolBox, DrawsTheEntriesOfItsListThatAreSeen)

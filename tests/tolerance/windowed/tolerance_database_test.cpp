@@ -125,6 +125,16 @@ TEST_F(FilledBox, IsEmptyWhenTheLibraryHasNoList)
     EXPECT_EQ(m_box->EditText(), L"k7");
 }
 
+TEST_F(FilledBox, TakesTheListOfEveryResultButZero)
+{
+    for (const int result : {-1, 2})
+    {
+        TheGaugeBase().listResult = result;
+        FillTolBox(*m_box, false);
+        EXPECT_EQ(m_box->GetCount(), 4) << result;
+    }
+}
+
 TEST_F(FilledBox, IsEmptyForAnEmptyFirstOrSecondListEvenWithoutAShortList)
 {
     for (const bool withShortList : {true, false})
@@ -214,6 +224,15 @@ TEST_F(FieldDeviationsOfLibrary, AreMultipliedInSinglePrecision)
     ASSERT_TRUE(c.has_value());
     EXPECT_EQ(c->upper, "+0.0113");
     EXPECT_EQ(c->lower, "+0.00412");
+}
+
+TEST_F(FieldDeviationsOfLibrary, AreTheAnswerOfEveryResultButZero)
+{
+    for (const int result : {-1, 2})
+    {
+        TheGaugeBase().knownResult = result;
+        EXPECT_TRUE(FieldDeviations(L"25", L"H7").has_value()) << result;
+    }
 }
 
 TEST_F(FieldDeviationsOfLibrary, AreNoneForAFieldThatTheLibraryDoesNotKnow)
