@@ -67,13 +67,21 @@ void ToleranceEntry::ShowTexts(const CDimParams& shown)
     m_dialog.SetDlgItemText(m_controls.caption, shown.caption);
     m_dialog.SetDlgItemText(m_controls.upperDev, shown.upperDev);
     m_dialog.SetDlgItemText(m_controls.lowerDev, shown.lowerDev);
+    // The box falls back to its selection when its list is left.
+    if (const int selected = m_fieldBox.GetCurSel(); selected != CB_ERR && m_fieldBox.Code(selected) != shown.tolField)
+        m_fieldBox.SetCurSel(CB_ERR);
     m_fieldBox.SetEditText(shown.tolField);
 }
 
+// A box that is disabled with its list open closes the list, and the system may put the entry that was reached there
+// into the box: none of that is the user's.
 void ToleranceEntry::EnableInputs(bool enable)
 {
+    const ScopedFlag writing(m_writing);
+    const CString field = m_fieldBox.EditText();
     for (const int control : {m_controls.field, m_controls.filter, m_controls.upperDev, m_controls.lowerDev})
         Enable(control, enable);
+    m_fieldBox.SetEditText(field);
 }
 
 void ToleranceEntry::Enable(int control, bool enable)

@@ -32,7 +32,8 @@ protected:
 
     void ExpectRefused(const wchar_t* upper, const wchar_t* lower, UINT message, int dimKind = 1)
     {
-        SCOPED_TRACE(testing::Message() << "upper '" << upper << "' lower '" << lower << "'");
+        SCOPED_TRACE(testing::Message() << "upper '" << upper << "' lower '" << lower << "' of a dimension of kind "
+                                        << dimKind);
         const ExpectMessageBox box;
         EXPECT_FALSE(Accept(upper, lower, dimKind).has_value());
         EXPECT_EQ(box.Text(), ResourceText(message).GetString());
@@ -92,6 +93,21 @@ TYPED_TEST(Accepting, NeedsNoDimension)
     EXPECT_EQ(result, IDOK);
     EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{TypeParam::kAccepted}));
     EXPECT_EQ(told, (std::vector<CDimParams>{CDimParams{}}));
+}
+
+// They are read, but not checked.
+TYPED_TEST(Accepting, TellsTheDeviationsThatStandThereEvenWithoutADimension)
+{
+    CDimParams told;
+    this->OnNotification([this, &told](UINT) { told = this->Record(); });
+    const INT_PTR result = this->Run({[this] {
+        this->Write(TypeParam::kUpper, L"1x");
+        this->Write(TypeParam::kLower, L"2x");
+        this->Click(TypeParam::kOk);
+    }});
+    EXPECT_EQ(result, IDOK);
+    EXPECT_EQ(told.upperDev, L"1x");
+    EXPECT_EQ(told.lowerDev, L"2x");
 }
 
 TYPED_TEST(Accepting, WorksWithoutAHost)
@@ -168,7 +184,8 @@ TYPED_TEST(Accepting, RefusesTwoZeros)
 
 TYPED_TEST(Accepting, RefusesTwoEmptyDeviations)
 {
-    this->ExpectRefused(L"", L"", IDS_DEVIATIONS_MISSING);
+    for (const int dimKind : {0, 1, 3})
+        this->ExpectRefused(L"", L"", IDS_DEVIATIONS_MISSING, dimKind);
 }
 
 // Blanks are something typed: the pair's own rule refuses them.
@@ -230,6 +247,27 @@ TEST_F(LinkAccepting, RefusesAnEmptyName)
                   }
                   EXPECT_TRUE(Codes().empty());
                   EXPECT_EQ(Text(IDC_LINK_UPPER_DEV), L"x");
+              }});
+}
+
+TEST_F(LinkAccepting, ReadsTheDeviationsOnOkButNotOnApplyWhenTheNameIsMissing)
+{
+    RunLoaded(FreeDimension(), {[this] {
+                  Write(IDC_LINK_NAME, L"");
+                  Write(IDC_LINK_UPPER_DEV, L"0.7");
+                  Write(IDC_LINK_LOWER_DEV, L"0.6");
+                  {
+                      const ExpectMessageBox box;
+                      Click(IDC_LINK_APPLY);
+                  }
+                  EXPECT_EQ(Record().upperDev, L"0.2");
+                  EXPECT_EQ(Record().lowerDev, L"-0.1");
+                  {
+                      const ExpectMessageBox box;
+                      Click(IDC_LINK_OK);
+                  }
+                  EXPECT_EQ(Record().upperDev, L"0.7");
+                  EXPECT_EQ(Record().lowerDev, L"0.6");
               }});
 }
 

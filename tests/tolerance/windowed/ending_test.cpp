@@ -164,6 +164,28 @@ TYPED_TEST(Ending, LeavesNothingBehind)
 
 using LinkEnding = ToleranceDialogTest<LinkDialog>;
 
+TEST_F(LinkEnding, ResetsLabelWeightDirectionAndApplyBeforeTheHostHearsOfCancel)
+{
+    CString name = L"A1";
+    bool checked = true;
+    const std::vector<int> controls{IDC_LINK_APPLY, IDC_LINK_NAME, IDC_LINK_DIRECTION, IDC_LINK_WEIGHT_FIXED};
+    std::vector<int> enabled = controls;
+    OnNotification([&](UINT) {
+        name = Text(IDC_LINK_NAME);
+        checked = IsChecked(IDC_LINK_WEIGHT_FIXED);
+        enabled = Enabled(controls);
+    });
+    RunLoaded(FreeDimension(), {[&] {
+                  ASSERT_EQ(Enabled(controls), controls);
+                  ASSERT_TRUE(IsChecked(IDC_LINK_WEIGHT_FIXED));
+                  Click(IDC_LINK_CANCEL);
+              }});
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{kChildCancelled}));
+    EXPECT_EQ(name, L"");
+    EXPECT_FALSE(checked);
+    EXPECT_EQ(enabled, std::vector<int>{});
+}
+
 TEST_F(LinkEnding, SurvivesThatTheHostDeletesTheDialogWhileItIsToldOfApply)
 {
     OnNotification([this](UINT) {

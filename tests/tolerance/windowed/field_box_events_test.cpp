@@ -276,6 +276,23 @@ TYPED_TEST(FieldBoxEvents, AskTheLibraryForAPickOfTheFormerEntryAfterALoadThatEn
                     }});
 }
 
+// A selection is what the entry says, whatever stands in the edit part.
+TYPED_TEST(FieldBoxEvents, TakeTheEntrysTextOfASelectionChangeNotTheEdits)
+{
+    this->RunLoaded(FreeDimension(), {[this] {
+                        this->SelectSilently(2);
+                        this->WriteSilently(L"zz");
+                        ASSERT_EQ(this->Selected(), 2);
+                        this->Calls().clear();
+                        this->Notify(CBN_SELCHANGE);
+                        EXPECT_EQ(this->Record().tolField, L"k6");
+                        EXPECT_EQ(this->Calls(), (std::vector<DimTolCall>{{25.0F, "k6"}}));
+                        EXPECT_EQ(this->Text(TypeParam::kUpper), L"+0.015");
+                        EXPECT_FALSE(this->IsEnabled(TypeParam::kUpper));
+                        EXPECT_FALSE(this->IsEnabled(TypeParam::kLower));
+                    }});
+}
+
 TYPED_TEST(FieldBoxEvents, ShowOnlyTheListedFieldsWithTheFilter)
 {
     this->RunLoaded(FittedDimension(), {[this] {

@@ -145,6 +145,12 @@ protected:
         return reinterpret_cast<HWND>(::SendMessageW(Window(Controls::kField), CBEM_GETEDITCONTROL, 0, 0));
     }
 
+    /// The combo box inside the box, which has the arrow and the list.
+    HWND FieldCombo() const
+    {
+        return reinterpret_cast<HWND>(::SendMessageW(Window(Controls::kField), CBEM_GETCOMBOCONTROL, 0, 0));
+    }
+
     /// Types into the box instead of what stands there: one change per character.
     void TypeField(const wchar_t* text) const
     {
@@ -161,10 +167,9 @@ protected:
     /// Posts the click on an entry of the list that is dropped down.
     void PostPick(int index) const
     {
-        const auto inner = reinterpret_cast<HWND>(::SendMessageW(Window(Controls::kField), CBEM_GETCOMBOCONTROL, 0, 0));
         COMBOBOXINFO info{};
         info.cbSize = sizeof info;
-        ::GetComboBoxInfo(inner, &info);
+        ::GetComboBoxInfo(FieldCombo(), &info);
         RECT item{};
         ::SendMessageW(info.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
         const LPARAM point = MAKELPARAM(item.left + 3, item.top + 3);
