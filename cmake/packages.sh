@@ -8,7 +8,8 @@ packages_to_run=(
 )
 packages_to_test=(
     "${packages_to_run[@]}"
-    g++ clang                 # the native builds; clang has the fuzzing engine
+    g++
+    clang libclang-rt-dev     # the fuzzing engine
     locales                   # a locale with a decimal comma is made from it
     clang-format clang-tidy
 )

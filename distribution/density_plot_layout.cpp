@@ -94,6 +94,7 @@ DisplayList LayoutDensityPlot(const DensityPlotInput& input)
                       TextToNumber(input.lowerDevText)};
 
     DisplayList list;
+    list.textLook = TextLook::PlainOnWhite;
     list.Text(centre, base, TextAlign::Center, input.nominalText);
     list.Text(centre, kNameRow, TextAlign::Center, input.name);
     WriteField(list, input, sizes);

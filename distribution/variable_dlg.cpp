@@ -56,6 +56,7 @@ BOOL CVariableDlg::OnInitDialog()
 {
     CChildDialog::OnInitDialog();
     const CModuleSkin skin(kModuleCalcTol);
+    m_isCancelled = false;
     m_lawBox = std::make_unique<CComboBox>();
     m_lawBox->SubclassDlgItem(IDC_VARIABLE_LAW, this);
     m_plot.SubclassDlgItem(IDC_VARIABLE_PLOT, this);
@@ -147,6 +148,8 @@ void CVariableDlg::RepaintNow()
 void CVariableDlg::OnOK()
 {
     const CModuleSkin skin(kModuleCalcTol);
+    if (m_isCancelled)
+        return;
     GetDlgItemText(IDC_VARIABLE_NAME, m_params.name);
     if (!AcceptMean())
         return;
@@ -163,6 +166,7 @@ void CVariableDlg::OnOK()
 void CVariableDlg::OnCancel()
 {
     const CModuleSkin skin(kModuleCalcTol);
+    m_isCancelled = true;
     Reset();
     if (Report(kChildCancelled))
         End(IDCANCEL);

@@ -65,6 +65,8 @@ struct Writer
     void operator()(const TextPrimitive& text) const
     {
         out << "text " << text.anchor << ' ' << Word(text.align) << ' ' << text.color << ' ' << Quoted(text.text);
+        if (text.halo > 0)
+            out << " halo " << text.halo;
     }
     void operator()(const FillPrimitive& fill) const { out << "fill " << fill.color << ' ' << fill.corners; }
     void operator()(const RectPrimitive& rect) const

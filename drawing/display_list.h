@@ -44,14 +44,14 @@ struct LinePrimitive
     bool operator==(const LinePrimitive&) const = default;
 };
 
-/// A text of one line; its y is the text's top. Font and width are the painter's: it may move a text that would leave
-/// the picture.
+/// A text of one line; its y is the text's top.
 struct TextPrimitive
 {
     PixelPoint anchor;
     TextAlign align = TextAlign::Left;
     Rgb color;
     std::string text;  // UTF-8
+    int halo = 0;      // pixels that white reaches to either side of the letters; 0: there is none
 
     bool operator==(const TextPrimitive&) const = default;
 };
@@ -87,10 +87,18 @@ struct OutlinePrimitive
 
 using Primitive = std::variant<LinePrimitive, TextPrimitive, FillPrimitive, RectPrimitive, OutlinePrimitive>;
 
+/// How a picture's texts are written.
+enum class TextLook
+{
+    ControlFont,   // in the font of the control that shows it, on what is drawn below them
+    PlainOnWhite,  // in the default font of device contexts, on white
+};
+
 /// The primitives of a picture in drawing order; what is drawn later covers what was drawn before.
 struct DisplayList
 {
     std::vector<Primitive> primitives;
+    TextLook textLook = TextLook::ControlFont;
 
     void Line(int startX, int startY, int endX, int endY);
     void Text(int x, int y, TextAlign align, std::string text, Rgb color = kBlack);
@@ -104,7 +112,7 @@ struct DisplayList
 /// One primitive a line, each line ended, words separated by blanks:
 ///
 ///     line X1 Y1 X2 Y2
-///     text X Y left|center|right RRGGBB "T"
+///     text X Y left|center|right RRGGBB "T" [halo REACH]
 ///     fill RRGGBB X1 Y1 X2 Y2 ...
 ///     rect RRGGBB LEFT TOP RIGHT BOTTOM
 ///     outline X1 Y1 X2 Y2 ...

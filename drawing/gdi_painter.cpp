@@ -2,8 +2,8 @@
 
 #include "drawing/display_list.h"
 #include "drawing/text_encoding.h"
+#include "drawing/text_places.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace
@@ -25,72 +25,14 @@ std::vector<POINT> ToPoints(const std::vector<PixelPoint>& points)
     return result;
 }
 
-int LeftEnd(const TextPrimitive& text, int extent)
-{
-    switch (text.align)
-    {
-    case TextAlign::Center:
-        return text.anchor.x - extent / 2;
-    case TextAlign::Right:
-        return text.anchor.x - extent;
-    default:
-        return text.anchor.x;
-    }
-}
-
-struct TextPlace
-{
-    CRect area;
-    bool isFree = true;  // else it covers an earlier text
-};
-
-/// The places of a picture's texts: inside of it and, where there is room, none over another.
-class TextPlaces
-{
-public:
-    explicit TextPlaces(CSize picture) : m_picture(picture) {}
-
-    TextPlace Take(const CRect& wanted)
-    {
-        TextPlace place{Inside(wanted)};
-        const CRect below = BelowOthers(place.area);
-        if (below.bottom <= m_picture.cy)
-            place.area = below;
-        else
-            place.isFree = below.top == place.area.top;
-        m_taken.push_back(place.area);
-        return place;
-    }
-
-private:
-    CRect Inside(const CRect& place) const
-    {
-        const CPoint corner(std::max<int>(0, std::min<int>(place.left, m_picture.cx - place.Width())),
-                            std::max<int>(0, std::min<int>(place.top, m_picture.cy - place.Height())));
-        return {corner, place.Size()};
-    }
-
-    CRect BelowOthers(CRect place) const
-    {
-        const auto isCovered = [&place](const CRect& other) {
-            CRect common;
-            return common.IntersectRect(&place, &other) != FALSE;
-        };
-        for (auto other = std::ranges::find_if(m_taken, isCovered); other != m_taken.end();
-             other = std::ranges::find_if(m_taken, isCovered))
-            place.OffsetRect(0, other->bottom - place.top);
-        return place;
-    }
-
-    CSize m_picture;
-    std::vector<CRect> m_taken;
-};
-
-/// One overload per primitive.
+/// One overload per primitive. Texts are left-aligned.
 class PrimitivePainter
 {
 public:
-    PrimitivePainter(CDC& dc, CSize picture) : m_dc(dc), m_texts(picture) {}
+    PrimitivePainter(CDC& dc, TextLook look)
+        : m_dc(dc), m_groundMode(look == TextLook::PlainOnWhite ? OPAQUE : TRANSPARENT)
+    {
+    }
 
     void operator()(const LinePrimitive& line) const
     {
@@ -98,19 +40,15 @@ public:
         m_dc.LineTo(line.end.x, line.end.y);
     }
 
-    void operator()(const TextPrimitive& text)
+    void operator()(const TextPrimitive& text) const
     {
         const CString characters = FromUtf8(text.text);
-        const CSize extent = m_dc.GetTextExtent(characters);
-        const CPoint wanted(LeftEnd(text, extent.cx), text.anchor.y);
-        const auto [area, isFree] = m_texts.Take(CRect(wanted, extent));
-        if (isFree && area.left != wanted.x)
-        {
-            // Without the first row, which has no ink: a line may run there.
-            m_dc.FillSolidRect(area.left, area.top + 1, area.Width(), area.Height() - 1, kGround);
-        }
+        m_dc.SetBkMode(text.halo > 0 ? TRANSPARENT : m_groundMode);
+        m_dc.SetBkColor(kGround);
+        if (text.halo > 0)
+            PaintHalo(characters, text.anchor, text.halo);
         m_dc.SetTextColor(ToColor(text.color));
-        m_dc.TextOut(area.left, area.top, characters);
+        m_dc.TextOut(text.anchor.x, text.anchor.y, characters);
     }
 
     void operator()(const FillPrimitive& fill) const
@@ -136,8 +74,16 @@ public:
     }
 
 private:
+    void PaintHalo(const CString& characters, PixelPoint corner, int reach) const
+    {
+        m_dc.SetTextColor(kGround);
+        for (int x = corner.x - reach; x <= corner.x + reach; ++x)
+            for (int y = corner.y - 1; y <= corner.y + 1; ++y)
+                m_dc.TextOut(x, y, characters);
+    }
+
     CDC& m_dc;
-    TextPlaces m_texts;
+    int m_groundMode;
 };
 
 /// Pen, colours, alignment and position of a context, put back at the end of a scope.
@@ -160,9 +106,12 @@ void PaintDisplayList(CDC& dc, const DisplayList& list, CSize picture)
 {
     const ScopedState state(dc);
     ::SelectObject(dc.GetSafeHdc(), ::GetStockObject(BLACK_PEN));
-    dc.SetBkMode(TRANSPARENT);
     dc.SetTextAlign(TA_TOP | TA_LEFT);
-    PrimitivePainter painter(dc, picture);
-    for (const Primitive& primitive : list.primitives)
+    const auto measure = [&dc](const std::string& text) {
+        const CSize extent = dc.GetTextExtent(FromUtf8(text));
+        return TextExtent{.width = extent.cx, .height = extent.cy};
+    };
+    const PrimitivePainter painter(dc, list.textLook);
+    for (const Primitive& primitive : WithReadableTexts(list, measure, picture.cx, picture.cy).primitives)
         std::visit(painter, primitive);
 }

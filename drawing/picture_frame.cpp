@@ -21,9 +21,9 @@ CSize SizeOf(CBitmap& bitmap)
 }
 
 // A control that was given no font has the default one of every device context.
-HGDIOBJ TextFont(const CWnd& control)
+HGDIOBJ TextFont(const CWnd& control, TextLook look)
 {
-    const CFont* const font = control.GetFont();
+    const CFont* const font = look == TextLook::ControlFont ? control.GetFont() : nullptr;
     return font != nullptr ? font->GetSafeHandle() : ::GetStockObject(SYSTEM_FONT);
 }
 
@@ -69,7 +69,7 @@ bool CPictureFrame::ShowDrawing(const DisplayList& drawing)
     if (m_picture.CreateCompatibleBitmap(&window.Dc(), area.Width(), area.Height()))
     {
         const ScopedSelect selected(memory, m_picture);
-        const ScopedSelect font(memory, TextFont(*this));
+        const ScopedSelect font(memory, TextFont(*this, drawing.textLook));
         memory.FillSolidRect(&area, RGB(255, 255, 255));
         PaintDisplayList(memory, drawing, area.Size());
     }

@@ -17,8 +17,8 @@ public:
     /// @return false when the system has no memory device context left; the control is empty then
     bool ShowBitmap(UINT bitmapId);
 
-    /// Shows a drawing, made for the size of the client area, on white, its texts in the control's font and all of them
-    /// within the client area. It is drawn out of sight and copied once.
+    /// Shows a drawing, made for the size of the client area, on white, all its texts within the client area. It is
+    /// drawn out of sight and copied once.
     /// @return as above
     bool ShowDrawing(const DisplayList& drawing);
 

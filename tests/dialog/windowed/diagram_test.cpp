@@ -272,6 +272,22 @@ protected:
         AddClosing(Dimension(L"", L"1250", upper, lower), &closingObject);
     }
 
+    /// The smallest rectangle around all that is black.
+    static CRect InkOf(const Pixels& picture)
+    {
+        CRect ink(picture.width, picture.height, 0, 0);
+        for (int row = 0; row < picture.height; ++row)
+            for (int column = 0; column < picture.width; ++column)
+                if (picture.At(column, row) == kBlack)
+                {
+                    ink.left = std::min<int>(ink.left, column);
+                    ink.top = std::min<int>(ink.top, row);
+                    ink.right = std::max<int>(ink.right, column + 1);
+                    ink.bottom = std::max<int>(ink.bottom, row + 1);
+                }
+        return ink;
+    }
+
     /// The text is whole, at the side of the area, and nothing runs through it.
     void ExpectAtSide(Side side, int y, const wchar_t* text, int inset) const
     {
@@ -286,10 +302,11 @@ protected:
         });
         ASSERT_GT(extent.cx, inset) << "it would be cut";
         ASSERT_GT(alone.Count(kBlack), 20);
+        const CRect ink = InkOf(alone);
         int different = 0;
-        for (int row = y + 1; row < y + extent.cy; ++row)  // letters begin below the first row, where a line may be
-            for (int column = left; column < left + extent.cx; ++column)
-                different += shown.At(column, row) != alone.At(column, row) ? 1 : 0;
+        for (int row = ink.top; row < ink.bottom; ++row)
+            for (int column = ink.left; column < ink.right; ++column)
+                different += (shown.At(column, row) == kBlack) != (alone.At(column, row) == kBlack) ? 1 : 0;
         EXPECT_EQ(different, 0);
     }
 };

@@ -122,13 +122,28 @@ TEST(DensityPlotLayout, OfANormalLawIsCentredOnTheFieldAndNotOnTheMean)
     }
 }
 
-TEST(DensityPlotLayout, RoundsTheLimitsThatItPrints)
+TEST(DensityPlotLayout, PrintsTheLimitsWithNineDecimalsAtMost)
 {
     DensityPlotInput input = Input("0.071", "0.0000000004", 2, 0.15);
     input.nominalText = "0.1";
     const DisplayList list = LayoutDensityPlot(input);
     EXPECT_TRUE(HasLine(list, "text 341 40 left 000000 \"0.171\""));
     EXPECT_TRUE(HasLine(list, "text 200 40 right 000000 \"0.1\""));
+}
+
+// 1.5e-9 in doubles lies a bit below the half, and is rounded up all the same.
+TEST(DensityPlotLayout, RoundsTheLimitsBeforeItPrintsThem)
+{
+    DensityPlotInput input = Input("0.0000000015", "-0.0000000015", 2, 0);
+    input.nominalText = "0";
+    const DisplayList list = LayoutDensityPlot(input);
+    EXPECT_TRUE(HasLine(list, "text 340 40 left 000000 \"0.000000002\""));
+    EXPECT_TRUE(HasLine(list, "text 61 40 right 000000 \"-0.000000002\""));
+}
+
+TEST(DensityPlotLayout, HasItsTextsOnWhiteInTheDefaultFont)
+{
+    EXPECT_EQ(LayoutDensityPlot(Input("0.1", "-0.1", 1, 10)).textLook, TextLook::PlainOnWhite);
 }
 
 TEST(DensityPlotLayout, AnyOtherLawHasNeitherDensityNorMean)

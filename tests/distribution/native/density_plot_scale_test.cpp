@@ -109,6 +109,25 @@ TEST(DensityPlotScale, FortyPixelsAreEnough)
     EXPECT_EQ(Place(-12, -16, -13).upperX, 100);
 }
 
+// 16 units have 160 pixels in a plot 440 wide: 4 units have exactly 40.
+TEST(DensityPlotScale, ExactlyFortyPixelsAreNotAdjusted)
+{
+    const DensityPlotScale below = Place(-12, -16, -14, 440);
+    EXPECT_EQ(below.upperX, 100);
+    EXPECT_EQ(below.meanX, 220 - 140 + 1);
+    const DensityPlotScale above = Place(16, 12, 14, 440);
+    EXPECT_EQ(above.lowerX, 340);
+    EXPECT_EQ(above.meanX, 220 + 140 + 1);
+}
+
+// In 190 pixels 35 remain between the limits.
+TEST(DensityPlotScale, AFieldThatEndsAtTheNominalIsNotBelowIt)
+{
+    const DensityPlotScale scale = Place(0, -16, -8, 190);
+    EXPECT_EQ(scale.upperX, 95);
+    EXPECT_EQ(scale.lowerX, 60);
+}
+
 TEST(DensityPlotScale, AFieldWithoutWidthBelowTheNominalIsFortyPixelsWide)
 {
     const DensityPlotScale scale = Place(-16, -16, -16);

@@ -16,6 +16,13 @@ TEST(SigmaText, TrimsItsZeros)
     EXPECT_EQ(SigmaText(1, "6", "-6"), "2");
 }
 
+// 3e-9 / 6 and 21e-9 / 6 lie a bit below the half that rounds up to a nanometre's share of a millimetre.
+TEST(SigmaText, IsRoundedBeforeItIsWritten)
+{
+    EXPECT_EQ(SigmaText(1, "0.000000003", "0"), "0.000000001");
+    EXPECT_EQ(SigmaText(1, "0.000000021", "0"), "0.000000004");
+}
+
 TEST(SigmaText, IsEmptyForAnyOtherLaw)
 {
     for (const std::int32_t law : {0, 4, -1})

@@ -194,6 +194,37 @@ TEST_F(VariableEnding, TellsTheHostOfASecondOkInsideTheFirstWithTheSameRecord)
     EXPECT_EQ(Record(), CVariableParams{});
 }
 
+// The record is empty by then: a mean of 0 and a law would go to the host.
+TEST_F(VariableEnding, IgnoresAnOkInsideTheReportOfCancel)
+{
+    OnNotification([&](UINT code) {
+        if (code == kChildCancelled)
+            Command(IDC_VARIABLE_OK);
+    });
+    const INT_PTR result = Run({[this] { Click(IDC_VARIABLE_CANCEL); }});
+    EXPECT_EQ(result, IDCANCEL);
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{kChildCancelled}));
+}
+
+TEST_F(VariableEnding, AcceptsInTheRunAfterACancelledOne)
+{
+    Run({[this] { Click(IDC_VARIABLE_CANCEL); }});
+    Record() = UniformLink();
+    EXPECT_EQ(Run({[this] { Click(IDC_VARIABLE_OK); }}), IDOK);
+}
+
+TEST_F(VariableEnding, TellsTheHostOfASecondCancelInsideTheFirst)
+{
+    bool first = true;
+    OnNotification([&](UINT) {
+        if (std::exchange(first, false))
+            Command(IDC_VARIABLE_CANCEL);
+    });
+    const INT_PTR result = Run({[this] { Click(IDC_VARIABLE_CANCEL); }});
+    EXPECT_EQ(result, IDCANCEL);
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{kChildCancelled, kChildCancelled}));
+}
+
 // The inner OK has emptied the record and ended the run.
 TEST_F(VariableEnding, IgnoresAThirdOkInsideTheFirst)
 {

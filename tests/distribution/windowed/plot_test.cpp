@@ -20,7 +20,8 @@ Pixels VariableDialogTest::ExpectedPlot()
     input.mean = Record().mean;
     input.upperWord = ToUtf8(ResourceText(52701));
     input.lowerWord = ToUtf8(ResourceText(52702));
-    return PaintedLike(Window(IDC_VARIABLE_PLOT), [&](CDC& dc) {
+    return PaintedPixels(input.width, input.height, [&](CDC& dc) {
+        ::SelectObject(dc.GetSafeHdc(), ::GetStockObject(SYSTEM_FONT));
         PaintDisplayList(dc, LayoutDensityPlot(input), CSize(input.width, input.height));
     });
 }

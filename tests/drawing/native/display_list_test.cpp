@@ -36,6 +36,14 @@ TEST(DisplayListText, WritesOneLineForEachPrimitiveInDrawingOrder)
                             "outline 1 2 3 4 -5 6 1 2\n");
 }
 
+TEST(DisplayListText, TellsHowFarAHaloReaches)
+{
+    DisplayList list;
+    list.Text(1, 2, TextAlign::Left, "A");
+    std::get<TextPrimitive>(list.primitives[0]).halo = 3;
+    EXPECT_EQ(ToText(list), "text 1 2 left 000000 \"A\" halo 3\n");
+}
+
 TEST(DisplayListText, NamesTheAlignmentOfATextAndItsColor)
 {
     DisplayList list;

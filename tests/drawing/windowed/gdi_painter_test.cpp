@@ -21,6 +21,7 @@ constexpr COLORREF kGreenPixel = RGB(97, 220, 5);
 constexpr COLORREF kRedPixel = RGB(255, 0, 0);
 constexpr Rgb kGreen{97, 220, 5};
 constexpr Rgb kRed{255, 0, 0};
+constexpr Rgb kWhite{255, 255, 255};
 
 void Paint(WhiteCanvas& canvas, const DisplayList& list)
 {
@@ -161,6 +162,21 @@ TEST(GdiPainter, WritesATextInItsColourWithoutPaintingItsGround)
     EXPECT_EQ(canvas.Count(kWhitePixel), 0);
 }
 
+// A filled rectangle leaves its colour behind as the ground of the texts after it.
+TEST(GdiPainter, WritesPlainTextsOnWhite)
+{
+    WhiteCanvas canvas(100, 40);
+    DisplayList list;
+    list.textLook = TextLook::PlainOnWhite;
+    list.Rect(kGreen, 0, 0, 100, 40);
+    list.Text(10, 10, TextAlign::Left, "HHH", kRed);
+    Paint(canvas, list);
+    SIZE size{};
+    ::GetTextExtentPoint32A(canvas.Dc().GetSafeHdc(), "HHH", 3, &size);
+    EXPECT_GT(canvas.Count(kRedPixel), 10);
+    EXPECT_EQ(canvas.Count(kRedPixel) + canvas.Count(kWhitePixel), size.cx * size.cy);
+}
+
 void ExpectTheSame(const WhiteCanvas& canvas, const WhiteCanvas& expected)
 {
     for (int y = 0; y < expected.Height(); ++y)
@@ -215,20 +231,13 @@ protected:
         return size;
     }
 
-    /// Green, a black line and the text over it.
-    static void PaintOverALine(WhiteCanvas& canvas, int x, TextAlign align, const std::string& text)
-    {
-        DisplayList list;
-        list.Rect(kGreen, 0, 0, kWidth, 40);
-        list.Line(x, 0, x, 40);
-        list.Text(x, kTop, align, text);
-        Paint(canvas, list);
-    }
-
-    static int WhitePixelsOver(int x, TextAlign align, const std::string& text)
+    static int WhitePixelsOnGreen(int x, TextAlign align, const std::string& text)
     {
         WhiteCanvas canvas(kWidth, 40);
-        PaintOverALine(canvas, x, align, text);
+        DisplayList list;
+        list.Rect(kGreen, 0, 0, kWidth, 40);
+        list.Text(x, kTop, align, text);
+        Paint(canvas, list);
         return canvas.Count(kWhitePixel);
     }
 
@@ -268,54 +277,87 @@ TEST_F(GdiPainterAtTheSides, ATextThatReachesTheSideStays)
     ExpectAt(kWidth - m_extent, kWidth - m_extent, TextAlign::Left, m_text);
 }
 
-TEST_F(GdiPainterAtTheSides, AMovedTextHasAWhiteGroundOverALine)
+// Wherever a line runs, it touches no letter and shows in no gap between two, where it would look like a digit 1.
+TEST_F(GdiPainterAtTheSides, AMovedTextKeepsLinesOffItsLetters)
 {
-    const struct
-    {
-        int x;
-        TextAlign align;
-        int left;
-    } cases[] = {{40, TextAlign::Right, 0},
-                 {kWidth - 40, TextAlign::Left, kWidth - m_extent},
-                 {20, TextAlign::Center, 0},
-                 {kWidth - 20, TextAlign::Center, kWidth - m_extent}};
-    ASSERT_GT(m_extent, 40);
-    WhiteCanvas alone(m_extent, 40);
+    WhiteCanvas alone(kWidth, 40);
     ::TextOutA(alone.Dc().GetSafeHdc(), 0, kTop, m_text.c_str(), static_cast<int>(m_text.size()));
-    for (const auto& moved : cases)
+    const CRect ink = alone.Drawn();
+    for (int line = 0; line < m_extent; ++line)
     {
-        SCOPED_TRACE(moved.x);
         WhiteCanvas canvas(kWidth, 40);
-        ::SetBkColor(canvas.Dc().GetSafeHdc(), RGB(1, 2, 3));
-        PaintOverALine(canvas, moved.x, moved.align, m_text);
-        const int height = SizeOf(m_text).cy;
-        for (int y = kTop + 1; y < kTop + height; ++y)
-            for (int x = 0; x < m_extent; ++x)
-                ASSERT_EQ(canvas.At(moved.left + x, y), alone.At(x, y)) << x << ' ' << y;
-        EXPECT_EQ(canvas.At(moved.x, kTop), kBlackPixel) << "the line above the letters";
-        EXPECT_EQ(canvas.At(moved.left + 1, kTop), kGreenPixel);
-        EXPECT_EQ(canvas.At(kWidth - 1 - moved.left, kTop), kGreenPixel) << "the other side";
-        EXPECT_LE(canvas.Count(kWhitePixel), m_extent * height);
+        DisplayList list;
+        list.Rect(kGreen, 0, 0, kWidth, 40);
+        list.Text(5, kTop, TextAlign::Right, m_text);
+        list.Line(line, 0, line, 40);
+        Paint(canvas, list);
+        for (int y = ink.top; y < ink.bottom; ++y)
+            for (int x = ink.left; x < ink.right; ++x)
+                ASSERT_EQ(canvas.At(x, y) == kBlackPixel, alone.At(x, y) == kBlackPixel)
+                    << x << ' ' << y << ", line " << line;
+        EXPECT_EQ(canvas.At(line, 0), kBlackPixel);
+        EXPECT_EQ(canvas.At(line, 39), kBlackPixel);
     }
 }
 
-TEST_F(GdiPainterAtTheSides, ATextWithinThePictureHasNoGround)
+TEST_F(GdiPainterAtTheSides, AMovedTextLeavesColoursAndLinesBesideItsLetters)
 {
-    EXPECT_EQ(WhitePixelsOver(kWidth - m_extent, TextAlign::Left, m_text), 0);
-    EXPECT_EQ(WhitePixelsOver(m_extent, TextAlign::Right, m_text), 0);
-    EXPECT_EQ(WhitePixelsOver(kWidth / 2, TextAlign::Center, m_text), 0);
+    const CSize size = SizeOf(m_text);
+    WhiteCanvas canvas(kWidth, 40);
+    ::SetBkColor(canvas.Dc().GetSafeHdc(), RGB(1, 2, 3));
+    DisplayList list;
+    list.Rect(kGreen, 0, 0, kWidth, 40);
+    list.Text(5, kTop, TextAlign::Right, m_text);
+    list.Line(0, kTop, kWidth, kTop);
+    list.Line(0, kTop + size.cy - 1, kWidth, kTop + size.cy - 1);
+    Paint(canvas, list);
+    for (const int row : {kTop, kTop + static_cast<int>(size.cy) - 1})
+        for (int x = 0; x < kWidth; ++x)
+            ASSERT_EQ(canvas.At(x, row), kBlackPixel) << x << ' ' << row;
+    EXPECT_GT(canvas.Count(kWhitePixel), 0);
+    EXPECT_LT(canvas.Count(kWhitePixel), size.cx * size.cy);
+    EXPECT_EQ(canvas.At(kWidth - 1, 20), kGreenPixel);
 }
 
-TEST_F(GdiPainterAtTheSides, ATextAfterAMovedOneHasNoGround)
+TEST_F(GdiPainterAtTheSides, AMovedTextIsNotCoveredByWhatComesLater)
 {
     WhiteCanvas canvas(kWidth, 40);
     DisplayList list;
+    list.Text(5, kTop, TextAlign::Right, m_text);
+    list.Rect(kWhite, 0, 0, kWidth, 40);
+    Paint(canvas, list);
+    ExpectAt(0, canvas, m_text);
+}
+
+TEST_F(GdiPainterAtTheSides, ATextAtItsPlaceIsCoveredByWhatComesLater)
+{
+    WhiteCanvas canvas(kWidth, 40);
+    DisplayList list;
+    list.Text(0, kTop, TextAlign::Left, m_text);
+    list.Rect(kWhite, 0, 0, kWidth, 40);
+    Paint(canvas, list);
+    EXPECT_TRUE(canvas.Drawn().IsRectEmpty());
+}
+
+TEST_F(GdiPainterAtTheSides, ATextWithinThePictureHasNoHalo)
+{
+    EXPECT_EQ(WhitePixelsOnGreen(kWidth - m_extent, TextAlign::Left, m_text), 0);
+    EXPECT_EQ(WhitePixelsOnGreen(m_extent, TextAlign::Right, m_text), 0);
+    EXPECT_EQ(WhitePixelsOnGreen(kWidth / 2, TextAlign::Center, m_text), 0);
+}
+
+TEST_F(GdiPainterAtTheSides, ATextAfterAMovedOneHasNoHalo)
+{
+    DisplayList list;
     list.Text(5, 0, TextAlign::Right, m_text);
     list.Rect(kGreen, 0, 0, kWidth, 40);
+    WhiteCanvas one(kWidth, 40);
+    Paint(one, list);
     list.Text(kWidth / 2, 20, TextAlign::Center, m_text);
-    Paint(canvas, list);
-    EXPECT_GT(canvas.Count(kBlackPixel), 10);
-    EXPECT_EQ(canvas.Count(kWhitePixel), 0);
+    WhiteCanvas two(kWidth, 40);
+    Paint(two, list);
+    EXPECT_GT(two.Count(kBlackPixel), one.Count(kBlackPixel));
+    EXPECT_EQ(two.Count(kWhitePixel), one.Count(kWhitePixel));
 }
 
 /// Texts in one row of a picture 60 pixels high, and those that are expected to be seen, by their left ends and tops.
@@ -343,23 +385,6 @@ TEST_F(GdiPainterAtTheSides, ATextGoesBelowAnEarlierOneThatItWouldCover)
                         {{110 - size.cx, 5 + 2 * size.cy}, m_text}});
 }
 
-TEST_F(GdiPainterAtTheSides, ATextMovedUpOrDownLeavesColoursAndLinesBelowIt)
-{
-    const SIZE size = SizeOf(m_text);
-    WhiteCanvas canvas(kWidth, 60);
-    DisplayList list;
-    list.Rect(kGreen, 0, 0, kWidth, 60);
-    list.Line(0, 58, kWidth, 58);
-    list.Text(100, 2, TextAlign::Left, m_text);
-    list.Text(110, 2, TextAlign::Left, m_text);
-    list.Text(10, 58, TextAlign::Left, m_text);
-    Paint(canvas, list);
-    EXPECT_EQ(canvas.Count(kWhitePixel), 0);
-    for (int x = 0; x < kWidth; ++x)
-        ASSERT_EQ(canvas.At(x, 58), kBlackPixel) << x;
-    EXPECT_GT(canvas.Count(kBlackPixel), kWidth + 3 * size.cx / 2) << "the letters";
-}
-
 TEST_F(GdiPainterAtTheSides, TextsSideBySideStay)
 {
     const SIZE size = SizeOf(m_text);
@@ -377,6 +402,23 @@ TEST_F(GdiPainterAtTheSides, ATextStaysOverAnotherWhereThereIsNoRoomBelow)
     list.Text(100, 5, TextAlign::Left, m_text);
     list.Text(110, 5, TextAlign::Left, m_text);
     ExpectPlaces(list, {{{100, 5}, m_text}, {{110, 5}, m_text}}, 5 + 2 * size.cy - 1);
+}
+
+// A halo would take the earlier text's letters away.
+TEST_F(GdiPainterAtTheSides, ATextMovedOverAnotherHasNoHalo)
+{
+    const SIZE size = SizeOf(m_text);
+    DisplayList list;
+    list.Text(5, 5, TextAlign::Right, m_text);
+    list.Text(20, 5, TextAlign::Right, "12345");
+    ExpectPlaces(list, {{{0, 5}, m_text}, {{0, 5}, "12345"}}, 5 + 2 * size.cy - 1);
+}
+
+TEST_F(GdiPainterAtTheSides, ATextBeyondTheTopMovesToIt)
+{
+    DisplayList list;
+    list.Text(100, -5, TextAlign::Left, m_text);
+    ExpectPlaces(list, {{{100, 0}, m_text}});
 }
 
 TEST_F(GdiPainterAtTheSides, ATextBeyondTheBottomMovesToIt)
@@ -420,7 +462,7 @@ DisplayList OneOfEachPrimitive()
     DisplayList list;
     list.Fill(kGreen, {{4, 3}, {14, 3}, {14, 9}, {4, 9}});
     list.Rect(kRed, 2, 3, 8, 5);
-    list.Text(10, 10, TextAlign::Left, "HHH");
+    list.Text(0, 0, TextAlign::Left, "HHH");
     list.Outline({{4, 12}, {4, 3}, {14, 3}, {14, 12}});
     list.Line(0, 15, 30, 15);
     return list;

@@ -199,6 +199,17 @@ TEST_F(PictureFrame, WritesTheTextsOfADrawingInTheSystemFontWhenTheControlHasNon
     ExpectInFont(drawing, ::GetStockObject(SYSTEM_FONT), [this](int x, int y) { return At(x, y); });
 }
 
+TEST_F(PictureFrame, WritesPlainTextsInTheSystemFontWhateverTheControlsFontIs)
+{
+    DisplayList drawing;
+    drawing.textLook = TextLook::PlainOnWhite;
+    drawing.Text(5, 5, TextAlign::Left, "1249.8755");
+    ::SendMessageW(m_frame.m_hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)), FALSE);
+    m_frame.ShowDrawing(drawing);
+    ExpectInFont(drawing, ::GetStockObject(SYSTEM_FONT), [this](int x, int y) { return At(x, y); });
+    ::SendMessageW(m_frame.m_hWnd, WM_SETFONT, 0, FALSE);
+}
+
 TEST_F(PictureFrame, KeepsTheTextsOfADrawingWithinItsWidth)
 {
     DisplayList outside;
