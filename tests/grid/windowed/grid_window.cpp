@@ -208,6 +208,18 @@ void RightClick(const CWnd& grid, CPoint point)
     PostMouse(grid, point, {WM_RBUTTONDOWN, WM_RBUTTONUP});
 }
 
+std::vector<HWND> EditorWindows(HWND grid)
+{
+    std::vector<HWND> editors;
+    for (HWND child = ::GetWindow(grid, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+    {
+        const int id = ::GetDlgCtrlID(child);
+        if (id >= 301 && id <= 303)
+            editors.push_back(child);
+    }
+    return editors;
+}
+
 void PickByMouse(HWND list, int entry)
 {
     ::SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);

@@ -76,6 +76,9 @@ void LeftClick(const CWnd& grid, CPoint point);
 void DoubleClick(const CWnd& grid, CPoint point);
 void RightClick(const CWnd& grid, CPoint point);
 
+/// The windows of the in-place editors on a grid, open and closing.
+std::vector<HWND> EditorWindows(HWND grid);
+
 /// Opens an in-place list and clicks on an entry.
 void PickByMouse(HWND list, int entry);
 

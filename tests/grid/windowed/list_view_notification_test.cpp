@@ -1,0 +1,207 @@
+#include "grid_window.h"
+
+// What a parent does while the list view below the grid tells it of scrolling, of the keyboard and of changed texts.
+
+namespace
+{
+void TellList(HWND list, UINT code)
+{
+    NMLVSCROLL record{};
+    record.hdr = {list, static_cast<UINT_PTR>(::GetDlgCtrlID(list)), code};
+    ::SendMessageW(::GetParent(list), WM_NOTIFY, record.hdr.idFrom, reinterpret_cast<LPARAM>(&record));
+}
+
+LRESULT CALLBACK TellOfScrolling(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR)
+{
+    const bool scrolls = message == LVM_ENSUREVISIBLE || message == LVM_SCROLL;
+    if (scrolls)
+        TellList(list, LVN_BEGINSCROLL);
+    if (!::IsWindow(list))
+        return 0;
+    const LRESULT result = ::DefSubclassProc(list, message, wParam, lParam);
+    if (scrolls && ::IsWindow(list))
+        TellList(list, LVN_ENDSCROLL);
+    return result;
+}
+
+/// Windows tells of every scrolling, Wine of that by the scroll bars alone.
+void MakeItTellOfScrolling(const CFListCtrl& grid)
+{
+    ::SetWindowSubclass(grid.GetSafeHwnd(), &TellOfScrolling, 1, 0);
+}
+
+using ParentToldOfScrolling = GridTest;
+}  // namespace
+
+TEST_F(ParentToldOfScrolling, RowDeletedWhileItsEditorComesIntoViewGetsNone)
+{
+    MakeItTellOfScrolling(grid);
+    window.entries = {{L"one", 1}};
+    for (int row = 0; row < 20; ++row)
+        window.AddTop(L"V");
+    for (const UINT scrolled : {LVN_BEGINSCROLL, LVN_ENDSCROLL})
+        for (const std::int32_t kind : {kCellEdit, kCellList, kCellButton})
+        {
+            SCOPED_TRACE(testing::Message() << "code " << scrolled << ", kind " << kind);
+            grid.EnsureVisible(0, FALSE);
+            const RowKey last = window.AddTop(L"W");
+            grid.SetFocusCell(last, 1, false);
+            grid.SetCellKind(last, 1, kind);
+            int told = 0;
+            window.onListTold = [&](UINT code) {
+                if (code == scrolled && told++ == 0)
+                    grid.DeleteRow(last);
+            };
+            EXPECT_FALSE(grid.OpenEditor());
+            EXPECT_GT(told, 0);
+            EXPECT_FALSE(grid.HasEditor());
+            EXPECT_EQ(grid.FindRow(last), nullptr);
+            EXPECT_TRUE(window.IndicesAreExact());
+            window.onListTold = nullptr;
+        }
+}
+
+TEST_F(ParentToldOfScrolling, GridDestroyedWhileAnEditorComesIntoViewHasNone)
+{
+    for (const std::int32_t kind : {kCellEdit, kCellList, kCellButton})
+    {
+        SCOPED_TRACE(kind);
+        GridWindow other;
+        other.entries = {{L"one", 1}};
+        MakeItTellOfScrolling(other.grid);
+        other.grid.SetRowMode(false);
+        other.grid.InsertFColumn(0, L"", LVCFMT_LEFT, 100, true);
+        for (int row = 0; row < 20; ++row)
+            other.AddTop(L"V");
+        const RowKey last = other.AddTop(L"W");
+        other.grid.SetFocusCell(last, 0, false);
+        other.grid.SetCellKind(last, 0, kind);
+        other.onListTold = [&](UINT code) {
+            if (code == LVN_ENDSCROLL)
+                other.grid.DestroyWindow();
+        };
+        EXPECT_FALSE(other.grid.OpenEditor());
+        EXPECT_EQ(other.grid.GetSafeHwnd(), nullptr);
+        EXPECT_FALSE(other.grid.HasEditor());
+    }
+}
+
+TEST_F(ParentToldOfScrolling, RowDeletedWhileItIsExpandedIsNotToldAsExpanded)
+{
+    MakeItTellOfScrolling(grid);
+    for (int row = 0; row < 20; ++row)
+        window.AddTop(L"V");
+    const RowKey last = window.AddTop(L"W");
+    window.AddChild(last, L"X");
+    grid.EnsureVisible(0, FALSE);
+    window.onListTold = [&](UINT code) {
+        if (code == LVN_ENDSCROLL)
+            grid.DeleteRow(last);
+    };
+    grid.ExpandRow(last);
+    EXPECT_EQ(grid.FindRow(last), nullptr);
+    EXPECT_TRUE(window.IndicesAreExact());
+    EXPECT_TRUE(window.TakeTold().empty());
+}
+
+namespace
+{
+// An edit open on A; the focus goes to B. The editor that closes gives the grid the keyboard, which the list view
+// tells.
+class ParentToldOfTheKeyboard : public GridTest
+{
+protected:
+    ParentToldOfTheKeyboard()
+    {
+        grid.SetCellKind(a, 1, kCellEdit);
+        grid.SetFocusCell(a, 1, false);
+        EXPECT_TRUE(grid.OpenEditor());
+    }
+
+    void MoveToB(const std::function<void()>& act)
+    {
+        int told = 0;
+        window.onListTold = [&](UINT code) {
+            if (code == NM_SETFOCUS && told++ == 0)
+                act();
+        };
+        grid.SetFocusCell(b, 2, true);
+        window.onListTold = nullptr;
+        EXPECT_GT(told, 0);
+        EXPECT_FALSE(grid.HasEditor());
+    }
+
+    RowKey a = window.AddTop(L"A");
+    RowKey b = window.AddTop(L"B");
+};
+}  // namespace
+
+TEST_F(ParentToldOfTheKeyboard, MayDeleteTheRowThatTheFocusGoesTo)
+{
+    MoveToB([this] { grid.DeleteRow(b); });
+    EXPECT_EQ(grid.FocusKey(), a);
+    EXPECT_EQ(grid.FocusColumn(), 1);
+    EXPECT_EQ(window.ShownNames(), "A");
+}
+
+TEST_F(ParentToldOfTheKeyboard, OpensNoEditorWhileAnotherOneCloses)
+{
+    bool opened = true;
+    MoveToB([&] {
+        grid.SetCellKind(b, 1, kCellEdit);
+        grid.SetFocusCell(b, 1, false);
+        opened = grid.OpenEditor();
+    });
+    EXPECT_FALSE(opened);
+    EXPECT_TRUE(EditorWindows(grid.GetSafeHwnd()).empty());
+    EXPECT_EQ(grid.FocusKey(), b);
+    EXPECT_EQ(grid.FocusColumn(), 2);
+}
+
+TEST_F(ParentToldOfTheKeyboard, KeepsNoEditorOfADeletedRow)
+{
+    window.onListTold = [&](UINT code) {
+        if (code == NM_SETFOCUS)
+            grid.OpenEditor();
+    };
+    grid.DeleteRow(a);
+    EXPECT_FALSE(grid.HasEditor());
+    EXPECT_TRUE(EditorWindows(grid.GetSafeHwnd()).empty());
+    EXPECT_EQ(window.ShownNames(), "B");
+}
+
+TEST_F(ParentToldOfTheKeyboard, MaySwitchToRows)
+{
+    MoveToB([this] { grid.SetRowMode(true); });
+    EXPECT_EQ(grid.FocusKey(), b);
+    EXPECT_EQ(grid.FocusColumn(), -1);
+}
+
+TEST_F(ParentToldOfTheKeyboard, MayDestroyTheGrid)
+{
+    MoveToB([this] { grid.DestroyWindow(); });
+    EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(grid.FocusKey(), nullptr);
+}
+
+TEST_F(ParentToldOfTheKeyboard, MayDestroyTheGridThatGetsARow)
+{
+    window.onListTold = [&](UINT code) {
+        if (code == NM_SETFOCUS)
+            grid.DestroyWindow();
+    };
+    EXPECT_EQ(grid.AddTopRow(grid.CreateRow(L"C", -1)), nullptr);
+    EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(grid.RowCount(), 0);
+}
+
+TEST_F(ParentToldOfTheKeyboard, MayDestroyTheGridThatGetsAColumn)
+{
+    window.onListTold = [&](UINT code) {
+        if (code == NM_SETFOCUS)
+            grid.DestroyWindow();
+    };
+    EXPECT_EQ(grid.InsertFColumn(2, L"new", LVCFMT_LEFT, 40, false), -1);
+    EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(grid.ColumnCount(), 0);
+}
