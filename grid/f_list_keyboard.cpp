@@ -134,7 +134,7 @@ void CFListCtrl::MoveFocus(GridMove move)
         from, move,
         {.rows = GetItemCount(), .columns = ColumnCount(), .rowsPerPage = GetCountPerPage(), .rowMode = m_rowMode});
     const CFListRow* const target = RowAtIndex(to.row);
-    if (target == nullptr)
+    if (target == nullptr || !ShowsItsPlace(move, m_rowMode))
         return;
     const RowKey key = target->Key();
     MakeCellVisible(key, to.column, false);

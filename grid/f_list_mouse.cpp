@@ -86,7 +86,7 @@ void CFListCtrl::OnContextMenu(CWnd* wnd, CPoint screenPoint)
             return;
     }
     if (byKeyboard && FocusRow() == nullptr)
-        MoveFocus(GridMove::Up);  // to the first row, as with any key that moves
+        MoveFocus(GridMove::Up);  // to the first row, as with any key that moves by rows
     if (!byKeyboard || FocusRow() == nullptr)
     {
         CListCtrlWithCustomDraw::OnContextMenu(wnd, screenPoint);

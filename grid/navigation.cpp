@@ -29,6 +29,25 @@ GridPlace PreviousCell(GridPlace from, const GridExtent& extent)
     return from.row > 0 ? GridPlace{from.row - 1, extent.columns - 1} : from;
 }
 
+bool IsToNeighbouringColumn(GridMove move)
+{
+    switch (move)
+    {
+    case GridMove::NextCell:
+    case GridMove::PreviousCell:
+    case GridMove::Left:
+    case GridMove::Right:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool IsBetweenColumns(GridMove move)
+{
+    return IsToNeighbouringColumn(move) || move == GridMove::FirstColumn || move == GridMove::LastColumn;
+}
+
 GridPlace ColumnAt(GridPlace from, int column, const GridExtent& extent)
 {
     return {from.row, std::clamp(column, 0, extent.columns - 1)};
@@ -38,6 +57,8 @@ GridPlace ColumnAt(GridPlace from, int column, const GridExtent& extent)
 GridPlace PlaceAfter(GridPlace from, GridMove move, const GridExtent& extent)
 {
     if (extent.rows == 0 || extent.columns == 0)
+        return from;
+    if (extent.rowMode && IsBetweenColumns(move))
         return from;
     if (from.row < 0)
         return {0, extent.rowMode ? -1 : 0};
@@ -52,13 +73,6 @@ GridPlace PlaceAfter(GridPlace from, GridMove move, const GridExtent& extent)
         return RowAt(from, from.row - 1, extent);
     case GridMove::Down:
         return RowAt(from, from.row + 1, extent);
-    default:
-        break;
-    }
-    if (extent.rowMode)
-        return from;
-    switch (move)
-    {
     case GridMove::NextCell:
         return NextCell(from, extent);
     case GridMove::PreviousCell:
@@ -74,6 +88,11 @@ GridPlace PlaceAfter(GridPlace from, GridMove move, const GridExtent& extent)
     default:
         return from;
     }
+}
+
+bool ShowsItsPlace(GridMove move, bool rowMode)
+{
+    return !(rowMode && IsToNeighbouringColumn(move));
 }
 
 int TopRowToShow(int top, int rowsPerPage, int first, int last)

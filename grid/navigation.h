@@ -33,8 +33,13 @@ struct GridExtent
     bool rowMode = false;  // moves go by whole rows; the moves between columns lead nowhere
 };
 
-/// The place that a move leads to; `from` itself where it leads nowhere. From no row every move leads to the first one.
+/// The place that a move leads to; `from` itself where it leads nowhere. From no row a move leads to the first one, but
+/// by rows the moves between columns lead nowhere then, too.
 GridPlace PlaceAfter(GridPlace from, GridMove move, const GridExtent& extent);
+
+/// Whether the place that a move leads to is scrolled into sight, also where it leads nowhere. By rows a move to a
+/// neighbouring column does nothing at all, while one to the first or last column still shows the row.
+bool ShowsItsPlace(GridMove move, bool rowMode);
 
 /// The row to stand at the top so that the row `last` is visible, and then, even if `last` has to go again, the row
 /// `first` above it; `top` when it is so already.

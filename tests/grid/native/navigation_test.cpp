@@ -64,7 +64,8 @@ INSTANTIATE_TEST_SUITE_P(
                     MoveCase{"UpOnTheFirstRowStays", {0, 2}, GridMove::Up, {0, 2}},
                     MoveCase{"DownKeepsTheColumn", {4, 2}, GridMove::Down, {5, 2}},
                     MoveCase{"DownOnTheLastRowStays", {19, 2}, GridMove::Down, {19, 2}},
-                    MoveCase{"AnyMoveFromNowhereToTheFirstCell", {-1, -1}, GridMove::Down, {0, 0}}),
+                    MoveCase{"DownFromNowhereToTheFirstCell", {-1, -1}, GridMove::Down, {0, 0}},
+                    MoveCase{"LeftFromNowhereToTheFirstCell", {-1, -1}, GridMove::Left, {0, 0}}),
     CaseName);
 
 TEST_P(NavigationByRows, LeadsToTheTabulatedPlace)
@@ -72,19 +73,42 @@ TEST_P(NavigationByRows, LeadsToTheTabulatedPlace)
     EXPECT_EQ(PlaceAfter(GetParam().from, GetParam().move, kRowGrid), GetParam().to);
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, NavigationByRows,
-                         testing::Values(MoveCase{"TabLeadsNowhere", {4, -1}, GridMove::NextCell, {4, -1}},
-                                         MoveCase{"BackTabLeadsNowhere", {4, -1}, GridMove::PreviousCell, {4, -1}},
-                                         MoveCase{"HomeLeadsNowhere", {4, -1}, GridMove::FirstColumn, {4, -1}},
-                                         MoveCase{"EndLeadsNowhere", {4, -1}, GridMove::LastColumn, {4, -1}},
-                                         MoveCase{"LeftLeadsNowhere", {4, -1}, GridMove::Left, {4, -1}},
-                                         MoveCase{"RightLeadsNowhere", {4, -1}, GridMove::Right, {4, -1}},
-                                         MoveCase{"UpToThePreviousRow", {4, -1}, GridMove::Up, {3, -1}},
-                                         MoveCase{"DownToTheNextRow", {4, -1}, GridMove::Down, {5, -1}},
-                                         MoveCase{"PageDown", {4, -1}, GridMove::PageDown, {8, -1}},
-                                         MoveCase{"PageUp", {4, -1}, GridMove::PageUp, {0, -1}},
-                                         MoveCase{"AnyMoveFromNowhereToTheFirstRow", {-1, -1}, GridMove::Up, {0, -1}}),
-                         CaseName);
+INSTANTIATE_TEST_SUITE_P(
+    Table, NavigationByRows,
+    testing::Values(MoveCase{"TabLeadsNowhere", {4, -1}, GridMove::NextCell, {4, -1}},
+                    MoveCase{"BackTabLeadsNowhere", {4, -1}, GridMove::PreviousCell, {4, -1}},
+                    MoveCase{"HomeLeadsNowhere", {4, -1}, GridMove::FirstColumn, {4, -1}},
+                    MoveCase{"EndLeadsNowhere", {4, -1}, GridMove::LastColumn, {4, -1}},
+                    MoveCase{"LeftLeadsNowhere", {4, -1}, GridMove::Left, {4, -1}},
+                    MoveCase{"RightLeadsNowhere", {4, -1}, GridMove::Right, {4, -1}},
+                    MoveCase{"TabFromNowhere", {-1, -1}, GridMove::NextCell, {-1, -1}},
+                    MoveCase{"BackTabFromNowhere", {-1, -1}, GridMove::PreviousCell, {-1, -1}},
+                    MoveCase{"HomeFromNowhere", {-1, -1}, GridMove::FirstColumn, {-1, -1}},
+                    MoveCase{"EndFromNowhere", {-1, -1}, GridMove::LastColumn, {-1, -1}},
+                    MoveCase{"LeftFromNowhere", {-1, -1}, GridMove::Left, {-1, -1}},
+                    MoveCase{"RightFromNowhere", {-1, -1}, GridMove::Right, {-1, -1}},
+                    MoveCase{"UpToThePreviousRow", {4, -1}, GridMove::Up, {3, -1}},
+                    MoveCase{"DownToTheNextRow", {4, -1}, GridMove::Down, {5, -1}},
+                    MoveCase{"PageDown", {4, -1}, GridMove::PageDown, {8, -1}},
+                    MoveCase{"PageUp", {4, -1}, GridMove::PageUp, {0, -1}},
+                    MoveCase{"UpFromNowhereToTheFirstRow", {-1, -1}, GridMove::Up, {0, -1}},
+                    MoveCase{"PageDownFromNowhereToTheFirstRow", {-1, -1}, GridMove::PageDown, {0, -1}}),
+    CaseName);
+
+TEST(Navigation, MoveShowsWhereItLeadsButByRowsNotToTheNeighbouringColumn)
+{
+    for (const GridMove move : {GridMove::NextCell, GridMove::PreviousCell, GridMove::Left, GridMove::Right})
+    {
+        EXPECT_FALSE(ShowsItsPlace(move, true));
+        EXPECT_TRUE(ShowsItsPlace(move, false));
+    }
+    for (const GridMove move : {GridMove::PageUp, GridMove::PageDown, GridMove::FirstColumn, GridMove::LastColumn,
+                                GridMove::Up, GridMove::Down})
+    {
+        EXPECT_TRUE(ShowsItsPlace(move, true));
+        EXPECT_TRUE(ShowsItsPlace(move, false));
+    }
+}
 
 // Two or fewer rows in sight would give a step of 0 or backwards.
 TEST(Navigation, PageDownInAVeryLowGridStillMovesOneRow)

@@ -247,6 +247,53 @@ TEST_F(GridKeys, RowModeMovesByRowsAlone)
     EXPECT_EQ(window.TakeTold(), (Told{"1116 A -1 \"\""}));
 }
 
+TEST_F(GridKeys, RowModeColumnKeysWithoutFocusRowDoNothing)
+{
+    grid.SetRowMode(true);
+    grid.SetFocusCell(nullptr, -1, true);
+    window.TakeTold();
+    for (const UINT key : {VK_TAB, VK_HOME, VK_END, VK_LEFT, VK_RIGHT})
+        PressKey(key);
+    PressKeyWith(VK_SHIFT, VK_TAB);
+    EXPECT_TRUE(window.TakeTold().empty());
+    EXPECT_EQ(grid.FocusRow(), nullptr);
+}
+
+TEST_F(GridKeys, RowModeKeysToTheNeighbouringColumnDoNotScrollBack)
+{
+    for (int row = 0; row < 60; ++row)
+        window.AddTop(L"V");
+    grid.SetRowMode(true);
+    grid.SetFocusRow(t, true);
+    grid.EnsureVisible(grid.GetItemCount() - 1, FALSE);
+    window.TakeTold();
+    const int top = grid.GetTopIndex();
+    ASSERT_GT(top, 0);
+    for (const UINT key : {VK_TAB, VK_LEFT, VK_RIGHT})
+        PressKey(key);
+    PressKeyWith(VK_SHIFT, VK_TAB);
+    EXPECT_EQ(grid.GetTopIndex(), top);
+    EXPECT_TRUE(window.TakeTold().empty());
+}
+
+TEST_F(GridKeys, RowModeHomeAndEndMakeTheRowVisible)
+{
+    for (int row = 0; row < 60; ++row)
+        window.AddTop(L"V");
+    grid.SetRowMode(true);
+    grid.SetFocusRow(t, true);
+    window.TakeTold();
+    for (const UINT key : {VK_HOME, VK_END})
+    {
+        SCOPED_TRACE(key);
+        grid.EnsureVisible(grid.GetItemCount() - 1, FALSE);
+        ASSERT_GT(grid.GetTopIndex(), 0);
+        PressKey(key);
+        EXPECT_EQ(grid.GetTopIndex(), 0);
+    }
+    EXPECT_TRUE(window.TakeTold().empty());
+}
+
 TEST_F(GridKeys, RowModeSpaceTogglesTheCheckBoxOfColumnZero)
 {
     grid.SetRowMode(true);
