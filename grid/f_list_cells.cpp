@@ -8,11 +8,17 @@ void CFListCtrl::SetCellText(RowKey key, int column, LPCTSTR text)
     if (row == nullptr)
         return;
     row->Item(column).text = text;
-    if (IsShown(*row))
-    {
-        SetItemText(row->ListIndex(), column, text);
-        RedrawRow(*row);
-    }
+    ShowText(key, column);
+    RedrawRow(key);
+}
+
+// Gives a shown cell's text to the list view, which tells its parent of one in the first column: the row may be gone
+// afterwards.
+void CFListCtrl::ShowText(RowKey key, int column)
+{
+    const CFListRow* const row = FindRow(key);
+    if (row != nullptr && IsShown(*row))
+        SetItemText(row->ListIndex(), column, row->Text(column));
 }
 
 void CFListCtrl::SetCellImage(RowKey key, int column, int image)

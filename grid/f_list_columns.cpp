@@ -27,8 +27,11 @@ int CFListCtrl::InsertFColumn(int index, LPCTSTR heading, int format, int width,
     CListCtrl::InsertColumn(index, heading, format, width);
 
     // The list view may have kept the texts of the columns at and behind the new one where they were.
-    for (int shown = 0; shown < GetItemCount(); ++shown)
+    std::vector<RowKey> shown;
+    for (int row = 0; row < GetItemCount(); ++row)
+        shown.push_back(RowAtIndex(row)->Key());
+    for (const RowKey key : shown)
         for (int moved = index; moved < ColumnCount(); ++moved)
-            SetItemText(shown, moved, RowAtIndex(shown)->Text(moved));
-    return index;
+            ShowText(key, moved);
+    return GetSafeHwnd() != nullptr ? index : -1;
 }

@@ -42,7 +42,7 @@ public:
     // columns
     /// @param format  LVCFMT_...; only whether it is LVCFMT_CENTER matters to the cells, the header takes it whole
     /// @param tree    the column carries indentation and expand images; the last one inserted so is the tree column
-    /// @return        the index; -1 for a grid that is destroyed while its open editor closes
+    /// @return        the index; -1 for a grid that its parent destroys meanwhile
     int InsertFColumn(int index, LPCTSTR heading, int format, int width, bool tree);
     int ColumnCount() const { return static_cast<int>(m_columns.GetSize()); }
     CFListColumn& Column(int column) const { return *m_columns[column]; }
@@ -187,6 +187,7 @@ private:
     void RedrawRow(RowKey key);
     void RedrawFocusRow(RowKey key);
     // cells
+    void ShowText(RowKey key, int column);
     static CString CellText(const CFListRow* row, int column);  // empty for no row or column
     CellTraits TraitsOf(const CFListRow& row, int column) const;
     CRect EditorRect(const CFListRow& row, int column) const;

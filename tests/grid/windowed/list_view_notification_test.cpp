@@ -1,4 +1,5 @@
 #include "grid_window.h"
+#include "tests/support/framework_printers.h"
 
 // What a parent does while the list view below the grid tells it of scrolling, of the keyboard and of changed texts.
 
@@ -202,6 +203,107 @@ TEST_F(ParentToldOfTheKeyboard, MayDestroyTheGridThatGetsAColumn)
             grid.DestroyWindow();
     };
     EXPECT_EQ(grid.InsertFColumn(2, L"new", LVCFMT_LEFT, 40, false), -1);
+    EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(grid.ColumnCount(), 0);
+}
+
+namespace
+{
+// Of the texts the list view tells that of the first column alone.
+class ParentToldOfATextChange : public GridTest
+{
+protected:
+    void DeleteAAtTheNextChange()
+    {
+        window.onListTold = [this](UINT code) {
+            if (code == LVN_ITEMCHANGED)
+                grid.DeleteRow(a);
+        };
+    }
+    void ExpectBAndC() const
+    {
+        EXPECT_EQ(window.ShownNames(), "B C");
+        EXPECT_EQ(grid.RowCount(), 2);
+        EXPECT_TRUE(window.IndicesAreExact());
+    }
+    /// What the list view itself holds, as others ask it.
+    std::vector<CString> ListTexts(int index) const
+    {
+        std::vector<CString> texts;
+        for (int column = 0; column < grid.ColumnCount(); ++column)
+            texts.push_back(grid.GetItemText(index, column));
+        return texts;
+    }
+
+    RowKey a = window.AddTop(L"A");
+    RowKey b = window.AddTop(L"B");
+    RowKey c = window.AddTop(L"C");
+};
+}  // namespace
+
+TEST_F(ParentToldOfATextChange, MayDeleteTheRow)
+{
+    DeleteAAtTheNextChange();
+    grid.SetCellText(a, 0, L"new");
+    ExpectBAndC();
+}
+
+TEST_F(ParentToldOfATextChange, MayDeleteTheRowWhoseEditCommits)
+{
+    grid.SetCellKind(a, 0, kCellEdit);
+    grid.SetFocusCell(a, 0, false);
+    ASSERT_TRUE(grid.OpenEditor());
+    TypeText(L"new");
+    window.onTold = [this](const NMFLISTCTRL& record) {
+        if (record.hdr.code == kGridEndEdit)
+            DeleteAAtTheNextChange();
+    };
+    PressKey(VK_RETURN);
+    ExpectBAndC();
+    // A crash while the keyboard changes hands goes unnoticed, but the editor stays then.
+    EXPECT_TRUE(EditorWindows(grid.GetSafeHwnd()).empty());
+    EXPECT_EQ(grid.FocusKey(), b);
+}
+
+TEST_F(ParentToldOfATextChange, MayDeleteTheRowThatGetsACell)
+{
+    DeleteAAtTheNextChange();
+    EXPECT_EQ(grid.InsertFColumn(0, L"new", LVCFMT_LEFT, 40, false), 0);
+    ExpectBAndC();
+    EXPECT_EQ(ListTexts(0), (std::vector<CString>{L"", L"B", L"B1", L"B2"}));
+    EXPECT_EQ(ListTexts(1), (std::vector<CString>{L"", L"C", L"C1", L"C2"}));
+}
+
+TEST_F(ParentToldOfATextChange, MayDeleteAllRowsThatGetACell)
+{
+    window.onListTold = [this](UINT code) {
+        if (code == LVN_ITEMCHANGED)
+            for (const RowKey key : {a, b, c})
+                grid.DeleteRow(key);
+    };
+    EXPECT_EQ(grid.InsertFColumn(0, L"new", LVCFMT_LEFT, 40, false), 0);
+    EXPECT_EQ(grid.GetItemCount(), 0);
+    EXPECT_EQ(grid.ColumnCount(), 4);
+}
+
+TEST_F(ParentToldOfATextChange, MayDestroyTheGrid)
+{
+    window.onListTold = [this](UINT code) {
+        if (code == LVN_ITEMCHANGED)
+            grid.DestroyWindow();
+    };
+    grid.SetCellText(a, 0, L"new");
+    EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(grid.RowCount(), 0);
+}
+
+TEST_F(ParentToldOfATextChange, MayDestroyTheGridThatGetsAColumn)
+{
+    window.onListTold = [this](UINT code) {
+        if (code == LVN_ITEMCHANGED)
+            grid.DestroyWindow();
+    };
+    EXPECT_EQ(grid.InsertFColumn(0, L"new", LVCFMT_LEFT, 40, false), -1);
     EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
     EXPECT_EQ(grid.ColumnCount(), 0);
 }
