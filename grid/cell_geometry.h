@@ -51,7 +51,8 @@ CellPart CellPartAt(const CellLayout& layout, int x);
 int EditorLeft(int left, const CellTraits& traits);
 
 /// How far the list must be scrolled sideways (positive: its contents move left) to show the cell: 10 pixels further
-/// than needed, but exactly for column 0, which never makes the list scroll right.
+/// than needed, but exactly for column 0, which never makes the list scroll right. A cell that lies wholly beyond the
+/// right edge is scrolled in like one that only hangs over it.
 int ScrollToShow(int left, int right, int clientWidth, int column);
 
 /// New width of an editor whose text is `textWidth` wide: wide enough for the text and 5 pixels, never less than
