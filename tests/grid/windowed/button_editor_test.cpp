@@ -46,6 +46,21 @@ TEST_F(ButtonEditor, ShowsThreeDots)
     EXPECT_EQ(::GetFocus(), Button());
 }
 
+TEST_F(ButtonEditor, IsAVisiblePushButton)
+{
+    constexpr LONG kStyle = WS_CHILD | WS_VISIBLE | BS_PUSHBUTTON;
+    EXPECT_EQ(::GetWindowLongW(Button(), GWL_STYLE) & (WS_CHILD | WS_VISIBLE | BS_TYPEMASK), kStyle);
+}
+
+TEST_F(ButtonEditor, HasTheGridsFont)
+{
+    grid.SetFocusCell(a, 1, false);
+    const LargeGridFont font(grid);
+    grid.SetFocusCell(a, 2, false);
+    EXPECT_NE(grid.SendMessage(WM_GETFONT), 0);
+    EXPECT_EQ(::SendMessageW(Button(), WM_GETFONT, 0, 0), grid.SendMessage(WM_GETFONT));
+}
+
 TEST_F(ButtonEditor, CellKnowsOfItsButton)
 {
     EXPECT_EQ(grid.FindRow(a)->Item(2).buttonShown, 1);

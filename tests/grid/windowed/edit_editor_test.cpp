@@ -328,9 +328,25 @@ TEST_F(EditEditor, ColumnOfAnotherWidthClosesIt)
 
 TEST_F(EditEditor, ScrollingGivesTheGridTheKeyboard)
 {
-    ::SetFocus(window.GetSafeHwnd());
-    grid.SendMessage(WM_VSCROLL, SB_LINEDOWN, 0);
-    EXPECT_EQ(::GetFocus(), grid.GetSafeHwnd());
+    for (const UINT message : {WM_VSCROLL, WM_HSCROLL})
+    {
+        SCOPED_TRACE(message);
+        ::SetFocus(window.GetSafeHwnd());
+        grid.SendMessage(message, SB_LINEDOWN, 0);
+        EXPECT_EQ(::GetFocus(), grid.GetSafeHwnd());
+    }
+}
+
+TEST_F(EditEditor, RowModeClosesItWithoutCommit)
+{
+    ASSERT_TRUE(grid.OpenEditor());
+    const HWND edit = Edit();
+    TypeText(L"new");
+    grid.SetRowMode(true);
+    EXPECT_FALSE(grid.HasEditor());
+    EXPECT_FALSE(::IsWindow(edit));
+    EXPECT_EQ(window.TakeTold(), (Told{"1117 A 1 \"A1\""}));
+    EXPECT_EQ(grid.FindRow(a)->Text(1), L"A1");
 }
 
 TEST_F(EditEditor, LongTextWidensItToTheGridsRightEdgeAndNoFurther)

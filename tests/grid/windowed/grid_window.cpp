@@ -208,6 +208,15 @@ void RightClick(const CWnd& grid, CPoint point)
     PostMouse(grid, point, {WM_RBUTTONDOWN, WM_RBUTTONUP});
 }
 
+Pixels PartOf(const Pixels& picture, const CRect& part)
+{
+    Pixels pixels{.width = part.Width(), .height = part.Height(), .colours = {}};
+    for (int y = part.top; y < part.bottom; ++y)
+        for (int x = part.left; x < part.right; ++x)
+            pixels.colours.push_back(picture.At(x, y));
+    return pixels;
+}
+
 std::vector<HWND> EditorWindows(HWND grid)
 {
     std::vector<HWND> editors;
@@ -242,6 +251,7 @@ LargeGridFont::LargeGridFont(CFListCtrl& grid)
     LOGFONT description{};
     description.lfHeight = -28;
     description.lfWeight = FW_BOLD;
+    ::lstrcpyW(description.lfFaceName, L"Tahoma");
     m_font.CreateFontIndirect(&description);
     m_grid.SetFont(&m_font);
 }

@@ -2,6 +2,7 @@
 
 #include "grid/f_list_ctrl.h"
 #include "grid/grid_parent.h"
+#include "tests/support/pixels.h"
 
 #include <gtest/gtest.h>
 
@@ -75,6 +76,9 @@ void TypeText(const wchar_t* text);
 void LeftClick(const CWnd& grid, CPoint point);
 void DoubleClick(const CWnd& grid, CPoint point);
 void RightClick(const CWnd& grid, CPoint point);
+
+/// A part of a picture.
+Pixels PartOf(const Pixels& picture, const CRect& part);
 
 /// The windows of the in-place editors on a grid, open and closing.
 std::vector<HWND> EditorWindows(HWND grid);

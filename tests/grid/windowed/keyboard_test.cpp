@@ -190,6 +190,48 @@ TEST_F(GridKeys, TypingOnATextCellOpensNoEditor)
     EXPECT_FALSE(grid.HasEditor());
 }
 
+TEST(GridCharacters, ThatOpenNoEditorReachTheListControl)
+{
+    class ListenedGrid : public CFListCtrl
+    {
+    public:
+        std::wstring reached;
+
+    protected:
+        LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_CHAR)
+                reached += static_cast<wchar_t>(wParam);
+            return CFListCtrl::DefWindowProc(message, wParam, lParam);
+        }
+    };
+    GridWindow window;
+    ListenedGrid grid;
+    grid.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 100, 100), &window, 1001);
+    grid.SetRowMode(false);
+    for (const int column : {0, 1})
+        grid.InsertFColumn(column, L"", LVCFMT_LEFT, 40, false);
+    const RowKey row = grid.AddTopRow(grid.CreateRow(L"A", -1));
+    grid.SetCellKind(row, 1, kCellEdit);
+    grid.SetFocus();
+
+    grid.SetFocusCell(row, 0, false);
+    TypeText(L"U7-");
+    EXPECT_EQ(grid.reached, L"U7-") << "on a text cell";
+    grid.reached.clear();
+    grid.SetFocusCell(row, 1, false);
+    TypeText(L"-, ");
+    EXPECT_EQ(grid.reached, L"-, ") << "on an edit cell";
+    grid.reached.clear();
+    TypeText(L"U");
+    EXPECT_TRUE(grid.HasEditor());
+    EXPECT_EQ(grid.reached, L"") << "by opening an editor";
+    grid.SetRowMode(true);
+    TypeText(L"U-");
+    EXPECT_EQ(grid.reached, L"U-") << "by rows";
+    grid.DestroyWindow();
+}
+
 TEST_F(GridKeys, MoveOntoAButtonCellOpensItsEditorAtOnce)
 {
     grid.SetCellKind(a, 0, kCellButton);

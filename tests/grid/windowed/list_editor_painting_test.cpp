@@ -1,5 +1,6 @@
 #include "grid_window.h"
 #include "tests/support/message_pump.h"
+#include "tests/support/pixels.h"
 
 #include <algorithm>
 #include <ranges>
@@ -105,6 +106,17 @@ TEST_F(ListEditorPainting, ArrowFillsASquareAtTheRight)
     EXPECT_EQ(PixelAt(kColumnWidth - kHeight - 1, kHeight / 2), kBack);
     for (int x = kColumnWidth - kHeight; x < kColumnWidth; ++x)
         EXPECT_NE(PixelAt(x, kHeight / 2), kBack) << x;
+}
+
+TEST_F(ListEditorPainting, ArrowIsTheOneOfAScrollBar)
+{
+    Open(2);
+    const Pixels arrow = PaintedPixels(kHeight, kHeight, [](CDC& dc) {
+        CRect area(0, 0, kHeight, kHeight);
+        dc.DrawFrameControl(&area, DFC_SCROLL, DFCS_SCROLLDOWN);
+    });
+    const CRect place(kColumnWidth - kHeight, 0, kColumnWidth, kHeight);
+    EXPECT_EQ(DifferentPixels(PartOf(ShownPixels(Editor(302)), place), arrow), 0);
 }
 
 TEST_F(ListEditorPainting, TextHasTheFocusTextColour)

@@ -8,6 +8,14 @@ namespace
 {
 using Told = std::vector<std::string>;
 
+LOGFONT FontOf(HWND window)
+{
+    LOGFONT description{};
+    ::GetObjectW(reinterpret_cast<HGDIOBJ>(::SendMessageW(window, WM_GETFONT, 0, 0)), sizeof(description),
+                 &description);
+    return description;
+}
+
 // Two rows; column 2, 210 to 290, is a drop-down list cell with the entries one, two, three. The focus is on A's first
 // cell.
 class ListEditor : public GridTest
@@ -151,15 +159,19 @@ TEST_F(ListEditor, HasItsStyleWithoutClientEdge)
 
 TEST_F(ListEditor, FontIsBoldInABoldRow)
 {
-    LOGFONT description{};
-    ::GetObjectW(reinterpret_cast<HGDIOBJ>(::SendMessageW(OpenIt(), WM_GETFONT, 0, 0)), sizeof(description),
-                 &description);
-    EXPECT_LT(description.lfWeight, FW_BOLD);
+    EXPECT_LT(FontOf(OpenIt()).lfWeight, FW_BOLD);
     grid.SetFocusCell(a, 0, false);
     grid.SetRowBold(a, true);
-    ::GetObjectW(reinterpret_cast<HGDIOBJ>(::SendMessageW(OpenIt(), WM_GETFONT, 0, 0)), sizeof(description),
-                 &description);
-    EXPECT_EQ(description.lfWeight, FW_BOLD);
+    EXPECT_EQ(FontOf(OpenIt()).lfWeight, FW_BOLD);
+}
+
+TEST_F(ListEditor, FontIsOtherwiseTheGrids)
+{
+    const LargeGridFont large(grid);
+    const LOGFONT ofTheGrid = FontOf(grid.GetSafeHwnd());
+    const LOGFONT ofTheList = FontOf(OpenIt());
+    EXPECT_EQ(ofTheList.lfHeight, ofTheGrid.lfHeight);
+    EXPECT_STREQ(ofTheList.lfFaceName, ofTheGrid.lfFaceName);
 }
 
 TEST_F(ListEditor, ParentCanForbidIt)

@@ -1,6 +1,8 @@
 #include "grid_window.h"
 #include "tests/support/framework_printers.h"
 
+#include <algorithm>
+
 namespace
 {
 using Told = std::vector<std::string>;
@@ -226,6 +228,16 @@ TEST_F(GridMouse, RightClickMakesTheRowTheFocusRow)
     RightClick(grid, CellCentre(u, 2));
     EXPECT_EQ(window.TakeTold(), (Told{"1116 U 0 \"U\""}));
     EXPECT_EQ(::GetFocus(), grid.GetSafeHwnd());
+}
+
+TEST_F(GridMouse, RightClickOutsideTheRowsIsLeftToTheListControl)
+{
+    std::vector<UINT> codes;
+    window.onListTold = [&](UINT code) { codes.push_back(code); };
+    RightClick(grid, CPoint(10, 250));
+    EXPECT_NE(std::ranges::find(codes, NM_RCLICK), codes.end());
+    EXPECT_TRUE(window.TakeTold().empty());
+    EXPECT_EQ(grid.FocusRow(), nullptr);
 }
 
 TEST(GridMenuParent, IsAskedForTheMenuAtTheScreenPoint)

@@ -1,5 +1,6 @@
 #include "grid_window.h"
 #include "tests/support/message_pump.h"
+#include "tests/support/pixels.h"
 
 #include <algorithm>
 #include <ostream>
@@ -299,6 +300,27 @@ TEST_F(GridPainting, CheckBoxIsAFrameUnlessItHasImages)
     EXPECT_EQ(TextSpan(u, 1, window_), (std::pair{2, 17}));
     grid.SetCellChecked(u, 1, true);
     EXPECT_GT(InkOf(u, 1, window_), unchecked);
+}
+
+// It stands 2 pixels in, clear of the grid line, and at the top: 17 less 16 leave nothing to halve.
+TEST_F(GridPainting, CheckBoxWithoutImagesIsTheFlatOneOfWindows)
+{
+    constexpr int kSide = 16;
+    grid.SetCellText(u, 1, L"");
+    grid.SetCellKind(u, 1, kCellCheckBox);
+    for (const UINT state : {0U, UINT{DFCS_CHECKED}})
+    {
+        SCOPED_TRACE(state != 0 ? "checked" : "unchecked");
+        grid.SetCellChecked(u, 1, state != 0);
+        Paint();
+        const CRect cell = grid.GetCellRect(u, 1);
+        const CRect place(cell.left + 2, cell.top, cell.left + 2 + kSide, cell.top + kSide);
+        const Pixels box = PaintedPixels(kSide, kSide, [&](CDC& dc) {
+            CRect area(0, 0, kSide, kSide);
+            dc.DrawFrameControl(&area, DFC_BUTTON, DFCS_BUTTONCHECK | DFCS_FLAT | state);
+        });
+        EXPECT_EQ(DifferentPixels(PartOf(ShownPixels(grid.GetSafeHwnd()), place), box), 0);
+    }
 }
 
 TEST_F(GridPainting, CheckBoxShowsTheImageOfItsState)
