@@ -24,8 +24,8 @@ constexpr std::int32_t kCellCheckBox = 8;
 ///
 /// Rows, cells and columns are the grid's; the control shows the top rows and, below each expanded row, its children.
 /// Everything that happens is told to the parent by the records of grid_notifications.h, synchronously; the parent may
-/// change and delete rows meanwhile, but not inside the list view's own LVN_INSERTITEM, LVN_DELETEITEM and
-/// LVN_DELETEALLITEMS. Image 0 of the small image list marks an expanded row, image 1 a collapsed one.
+/// change and delete rows meanwhile, but not inside the list view's own LVN_INSERTITEM, LVN_DELETEITEM,
+/// LVN_DELETEALLITEMS and LVN_ITEMCHANGING. Image 0 of the small image list marks expanded rows, 1 collapsed ones.
 /// Rows are addressed by key; an unknown key is ignored. A column that does not exist raises CInvalidArgException.
 /// An open editor closes without commit when a column or a row is added, a row deleted, expanded or collapsed, a cell
 /// brought into sight, the focus moved to another cell, or the row mode set.
