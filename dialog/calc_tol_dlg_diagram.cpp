@@ -6,9 +6,9 @@
 #include "dialog/calc_tol_dlg.h"
 #include "dialog/columns.h"
 #include "dialog/row_values.h"
-#include "drawing/text_encoding.h"
 #include "platform/moduleskin/module_skin.h"
 #include "platform/moduleskin/resource.h"
+#include "platform/text/text_encoding.h"
 
 namespace
 {

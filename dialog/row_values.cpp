@@ -3,7 +3,7 @@
 #include "calc/centre_of_grouping.h"
 #include "calc/number_text.h"
 #include "dialog/columns.h"
-#include "drawing/text_encoding.h"
+#include "platform/text/text_encoding.h"
 
 namespace
 {

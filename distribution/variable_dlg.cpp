@@ -6,10 +6,10 @@
 #include "distribution/mean_range.h"
 #include "distribution/sigma_text.h"
 #include "drawing/kind_bitmap.h"
-#include "drawing/text_encoding.h"
 #include "interface/notify_host.h"
 #include "platform/moduleskin/module_skin.h"
 #include "platform/moduleskin/resource.h"
+#include "platform/text/text_encoding.h"
 
 BEGIN_MESSAGE_MAP(CVariableDlg, CChildDialog)
     // window

@@ -1,8 +1,9 @@
 #include "drawing/gdi_painter.h"
 
 #include "drawing/display_list.h"
-#include "drawing/text_encoding.h"
 #include "drawing/text_places.h"
+#include "platform/gdi/scoped_state.h"
+#include "platform/text/text_encoding.h"
 
 #include <vector>
 
@@ -84,20 +85,6 @@ private:
 
     CDC& m_dc;
     int m_groundMode;
-};
-
-/// Pen, colours, alignment and position of a context, put back at the end of a scope.
-class ScopedState
-{
-public:
-    explicit ScopedState(CDC& dc) : m_dc(dc.GetSafeHdc()), m_saved(::SaveDC(m_dc)) {}
-    ~ScopedState() { ::RestoreDC(m_dc, m_saved); }
-    ScopedState(const ScopedState&) = delete;
-    ScopedState& operator=(const ScopedState&) = delete;
-
-private:
-    HDC m_dc;
-    int m_saved;
 };
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include "drawing/display_list.h"
 #include "drawing/gdi_painter.h"
-#include "drawing/scoped_select.h"
+#include "platform/gdi/scoped_select.h"
 
 BEGIN_MESSAGE_MAP(CPictureFrame, CStatic)
     ON_WM_DESTROY()

@@ -1,5 +1,6 @@
 #include "grid/cell_text.h"
 #include "grid/f_list_ctrl.h"
+#include "platform/gdi/scoped_state.h"
 
 #include <algorithm>
 
@@ -8,20 +9,6 @@ namespace
 constexpr int kExpandedImage = 0;
 constexpr int kCollapsedImage = 1;
 constexpr int kFrameInset = 2;  // keeps a drawn check box clear of the grid line before it
-
-/// Puts clipping, font and colours of a DC back at the end of a scope.
-class ScopedState
-{
-public:
-    explicit ScopedState(CDC& dc) : m_dc(dc.GetSafeHdc()), m_state(::SaveDC(m_dc)) {}
-    ~ScopedState() { ::RestoreDC(m_dc, m_state); }
-    ScopedState(const ScopedState&) = delete;
-    ScopedState& operator=(const ScopedState&) = delete;
-
-private:
-    HDC m_dc;
-    int m_state;
-};
 
 void DrawImage(CDC& dc, HIMAGELIST images, int image, int left, const CRect& cell)
 {

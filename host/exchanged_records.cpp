@@ -2,7 +2,7 @@
 
 #include "calc/centre_of_grouping.h"
 #include "calc/distribution_laws.h"
-#include "drawing/text_encoding.h"
+#include "platform/text/text_encoding.h"
 
 namespace
 {

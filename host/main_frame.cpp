@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "drawing/text_encoding.h"
 #include "host/dimension_choice.h"
 #include "host/dimension_text.h"
 #include "host/drawing_file_dialog.h"
@@ -11,6 +10,7 @@
 #include "host/prompts.h"
 #include "host/resource.h"
 #include "interface/notifications.h"
+#include "platform/text/text_encoding.h"
 
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWnd)
     // window

@@ -2,9 +2,9 @@
 
 #include <stdexcept>
 
-#include "drawing/text_encoding.h"
 #include "host/drawing_reader.h"
 #include "host/exchanged_records.h"
+#include "platform/text/text_encoding.h"
 
 void PlayedFrame::LoadDrawing(const std::filesystem::path& file)
 {

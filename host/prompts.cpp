@@ -1,7 +1,7 @@
 #include "host/prompts.h"
 
-#include "drawing/text_encoding.h"
 #include "host/resource.h"
+#include "platform/text/text_encoding.h"
 
 namespace
 {

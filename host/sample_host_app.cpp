@@ -11,7 +11,6 @@
 #include <afxwin.h>
 #include <shellapi.h>
 
-#include "drawing/text_encoding.h"
 #include "host/command_line.h"
 #include "host/drawing_reader.h"
 #include "host/main_frame.h"
@@ -20,6 +19,7 @@
 #include "host/player/script_player.h"
 #include "host/resource.h"
 #include "host/standard_output.h"
+#include "platform/text/text_encoding.h"
 
 namespace
 {

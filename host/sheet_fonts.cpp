@@ -3,8 +3,8 @@
 #include <cmath>
 #include <numbers>
 
-#include "drawing/scoped_select.h"
-#include "drawing/text_encoding.h"
+#include "platform/gdi/scoped_select.h"
+#include "platform/text/text_encoding.h"
 
 namespace
 {

@@ -7,8 +7,8 @@
 #include <numeric>
 #include <vector>
 
-#include "drawing/scoped_select.h"
-#include "drawing/text_encoding.h"
+#include "platform/gdi/scoped_select.h"
+#include "platform/text/text_encoding.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 #include "host/sheet_view.h"
 
-#include "drawing/scoped_select.h"
 #include "host/dimension_choice.h"
+#include "platform/gdi/scoped_select.h"
 
 BEGIN_MESSAGE_MAP(CSheetView, CWnd)
     // window

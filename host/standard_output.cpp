@@ -4,7 +4,7 @@
 
 #include <afxwin.h>
 
-#include "drawing/text_encoding.h"
+#include "platform/text/text_encoding.h"
 
 namespace
 {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "drawing/scoped_select.h"
+#include "platform/gdi/scoped_select.h"
 
 BEGIN_MESSAGE_MAP(CTolBox, CComboBoxEx)
     ON_WM_DRAWITEM()

@@ -1,8 +1,8 @@
 #include "tolerance/tolerance_database.h"
 
 #include "calc/number_text.h"
-#include "drawing/text_encoding.h"
 #include "platform/gaugebase/gauge_base.h"
+#include "platform/text/text_encoding.h"
 
 namespace
 {

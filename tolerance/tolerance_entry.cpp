@@ -1,8 +1,8 @@
 #include "tolerance/tolerance_entry.h"
 
 #include "drawing/kind_bitmap.h"
-#include "drawing/text_encoding.h"
 #include "interface/notify_host.h"
+#include "platform/text/text_encoding.h"
 #include "tolerance/deviation_text.h"
 #include "tolerance/tolerance_database.h"
 

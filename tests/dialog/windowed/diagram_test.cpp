@@ -5,7 +5,7 @@
 #include "calc/chain_calculation.h"
 #include "diagram/chain_diagram_layout.h"
 #include "drawing/gdi_painter.h"
-#include "drawing/text_encoding.h"
+#include "platform/text/text_encoding.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
 #include "tests/support/pixels.h"
 

@@ -2,7 +2,7 @@
 
 #include "distribution/density_plot_layout.h"
 #include "drawing/gdi_painter.h"
-#include "drawing/text_encoding.h"
+#include "platform/text/text_encoding.h"
 #include "tests/support/resource_count.h"
 
 Pixels VariableDialogTest::ExpectedPlot()

@@ -2,7 +2,7 @@
 
 #include <afxwin.h>
 
-#include "drawing/scoped_select.h"
+#include "platform/gdi/scoped_select.h"
 
 /// A white picture in memory that a test draws on and reads pixel by pixel.
 class WhiteCanvas

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "drawing/text_encoding.h"
+#include "platform/text/text_encoding.h"
 
 namespace
 {

@@ -1,4 +1,4 @@
-#include "drawing/text_encoding.h"
+#include "platform/text/text_encoding.h"
 
 #include <gtest/gtest.h>
 
