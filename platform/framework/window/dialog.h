@@ -25,8 +25,9 @@ public:
     /// Shows the dialog from the current resource module and returns when it has ended.
     ///
     /// The owner and the windows that own it are disabled meanwhile; those that were enabled before are enabled again
-    /// before the window goes. Other windows of the thread get their messages from the dialog's own message loop. The
-    /// window, and even this object, may be destroyed while the loop runs.
+    /// before the window goes, unless another modal dialog that still runs needs them disabled, too. Other windows of
+    /// the thread get their messages from the dialog's own message loop. The window, and even this object, may be
+    /// destroyed while the loop runs.
     /// @return  what EndDialog was given; -1 when the window can't be created, was destroyed otherwise, or the thread
     ///          was told to quit
     virtual INT_PTR DoModal();

@@ -1,5 +1,21 @@
 #include "window/disabled_owners.h"
 
+#include <algorithm>
+#include <utility>
+
+namespace
+{
+DisabledOwners* innermostHolder = nullptr;
+}
+
+DisabledOwners::DisabledOwners() : m_outer(std::exchange(innermostHolder, this)) {}
+
+DisabledOwners::~DisabledOwners()
+{
+    Restore();
+    innermostHolder = m_outer;
+}
+
 void DisabledOwners::Disable(HWND owner)
 {
     m_restored = false;
@@ -8,8 +24,13 @@ void DisabledOwners::Disable(HWND owner)
     {
         if (::IsWindowEnabled(window))
         {
-            m_disabled.push_back(window);
+            LetGoEverywhere(window);  // whoever disabled it before, somebody has enabled it since
+            m_windows.push_back(window);
             ::EnableWindow(window, FALSE);
+        }
+        else if (IsHeld(window))
+        {
+            m_windows.push_back(window);
         }
         window = ::GetWindow(window, GW_OWNER);
     }
@@ -18,11 +39,25 @@ void DisabledOwners::Disable(HWND owner)
 void DisabledOwners::Restore()
 {
     m_restored = true;
-    while (!m_disabled.empty())
+    while (!m_windows.empty())
     {
-        const HWND window = m_disabled.back();
-        m_disabled.pop_back();
-        if (::IsWindow(window))
+        const HWND window = m_windows.back();
+        m_windows.pop_back();
+        if (!IsHeld(window) && ::IsWindow(window))
             ::EnableWindow(window, TRUE);
     }
+}
+
+bool DisabledOwners::IsHeld(HWND window)
+{
+    for (const DisabledOwners* holder = innermostHolder; holder != nullptr; holder = holder->m_outer)
+        if (std::ranges::find(holder->m_windows, window) != holder->m_windows.end())
+            return true;
+    return false;
+}
+
+void DisabledOwners::LetGoEverywhere(HWND window)
+{
+    for (DisabledOwners* holder = innermostHolder; holder != nullptr; holder = holder->m_outer)
+        std::erase(holder->m_windows, window);
 }

@@ -4,22 +4,30 @@
 
 #include <windows.h>
 
-/// Disables a window's top-level window and all windows that own that one, as far as they are enabled, and enables
-/// exactly those again.
+/// Holds a window's top-level window and all windows that own that one disabled. Of several that live one inside the
+/// other, the last one that lets a window go enables it, in whatever order they do.
+///
+/// A window that was disabled before the first of them stays so. One that was enabled by somebody else meanwhile, and
+/// is disabled by the next of them, is that one's alone.
 class DisabledOwners
 {
 public:
-    DisabledOwners() = default;
-    ~DisabledOwners() { Restore(); }
+    DisabledOwners();
+    ~DisabledOwners();
     DisabledOwners(const DisabledOwners&) = delete;
     DisabledOwners& operator=(const DisabledOwners&) = delete;
 
     /// The windows are told while it runs, and may have everything enabled again: then it leaves the rest alone.
     void Disable(HWND owner);
-    /// To be called before the window that they wait for is destroyed: Windows can activate only an enabled window.
+    /// Lets all windows go. To be called before the window that they wait for is destroyed: Windows can activate only
+    /// an enabled window.
     void Restore();
 
 private:
-    std::vector<HWND> m_disabled;
+    static bool IsHeld(HWND window);
+    static void LetGoEverywhere(HWND window);
+
+    DisabledOwners* m_outer;
+    std::vector<HWND> m_windows;
     bool m_restored = false;
 };
