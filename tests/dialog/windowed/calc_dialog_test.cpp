@@ -113,6 +113,12 @@ void CalcDialogTest::OpenWith(int method)
     ChooseMethod(method);
 }
 
+void CalcDialogTest::OpenAnew()
+{
+    dialog->DestroyWindow();
+    dialog->Create(&host);
+}
+
 void CalcDialogTest::Close()
 {
     dialog->CancelDialog();
@@ -218,12 +224,30 @@ CString CalcDialogTest::ChildText(int id) const
     return text;
 }
 
+void CalcDialogTest::EndChildWith(int result) const
+{
+    static_cast<CDialog*>(CWnd::FromHandlePermanent(Child()))->EndDialog(result);
+}
+
+void CalcDialogTest::ExpectNoChild() const
+{
+    EXPECT_EQ(Child(), nullptr);
+    EXPECT_TRUE(::IsWindowEnabled(Window()));
+    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+}
+
 int CalcDialogTest::RepaintsOf(const std::function<void()>& action) const
 {
     PumpUntilIdle();
     const int before = dialog->Repaints();
     action();
     return dialog->Repaints() - before;
+}
+
+void CalcDialogTest::ExpectNoRepaintBy(const std::function<void()>& action) const
+{
+    EXPECT_EQ(RepaintsOf(action), 0);
+    EXPECT_FALSE(::GetUpdateRect(Window(), nullptr, FALSE)) << "nor does it wait for a later one";
 }
 
 EachChild::EachChild()

@@ -70,6 +70,8 @@ protected:
     void Open(const wchar_t* label = L"Shaft");
     /// With the method chosen.
     void OpenWith(int method);
+    /// Destroys the window and creates it anew.
+    void OpenAnew();
     /// As a host does it when it has no more use for the dialog.
     void Close();
 
@@ -106,11 +108,18 @@ protected:
     CString ChildText(int id) const;
     void WriteChild(int id, const wchar_t* text) const { ::SetWindowTextW(ChildControl(id), text); }
     void ClickChild(int id) const { ::SendMessageW(ChildControl(id), BM_CLICK, 0, 0); }
+    /// As the host or the dialog's own code ends it.
+    void EndChildWith(int result) const;
     bool IsChildChecked(int id) const { return ::SendMessageW(ChildControl(id), BM_GETCHECK, 0, 0) == BST_CHECKED; }
+
+    /// None is open, and none has left a window disabled.
+    void ExpectNoChild() const;
 
     std::vector<WPARAM> Codes() const { return host.Notifications(); }
     /// How often the action makes the dialog repaint itself at once.
     int RepaintsOf(const std::function<void()>& action) const;
+    /// The action makes the dialog repaint itself neither at once nor later.
+    void ExpectNoRepaintBy(const std::function<void()>& action) const;
 
     ScriptedHost host;
     std::unique_ptr<WatchedDialog> dialog;

@@ -9,7 +9,7 @@ using ChildDialog = EachChild;
 
 INSTANTIATE_TEST_SUITE_P(Kinds, ChildDialog,
                          testing::Values(kLinkChild, kClosingChild, kDistributionChild, kWeightChild),
-                         [](const testing::TestParamInfo<ChildKind>& kind) { return kind.param.name; });
+                         testing::PrintToStringParamName());
 
 TEST_P(ChildDialog, IsOwnedByTheCalculationDialogWhichIsDisabledMeanwhile)
 {
@@ -62,7 +62,24 @@ TEST_P(ChildDialog, LeavesTheFocusRowsWhereTheyAre)
     EXPECT_EQ(dialog->FocusNotifications(), before);
 }
 
-TEST_P(ChildDialog, IsEndedByEndModalWithoutARepaint)
+/// Also those that open for a row that is not there yet.
+using EveryChildDialog = EachChild;
+
+INSTANTIATE_TEST_SUITE_P(Kinds, EveryChildDialog,
+                         testing::Values(kLinkChild, kClosingChild, kDistributionChild, kWeightChild, kNewLinkChild,
+                                         kNewClosingChild),
+                         testing::PrintToStringParamName());
+
+// The same result that EndModal gives.
+TEST_P(EveryChildDialog, IsAbandonedWithTheResultOfTheHost)
+{
+    ::SetFocus(Links().Window());
+    EXPECT_EQ(RepaintsOf([this] { Command(GetParam().command, {[this] { EndChildWith(kEndedByHost); }}); }), 0);
+    EXPECT_NE(::GetFocus(), host.m_hWnd);
+    ExpectNoChild();
+}
+
+TEST_P(EveryChildDialog, IsEndedByEndModalWithoutARepaint)
 {
     ::SetFocus(Links().Window());
     std::vector<WPARAM> atOpening;
@@ -73,21 +90,15 @@ TEST_P(ChildDialog, IsEndedByEndModalWithoutARepaint)
                           }});
               }),
               0);
-    EXPECT_EQ(Child(), nullptr);
+    ExpectNoChild();
     EXPECT_EQ(Codes(), atOpening) << "the child says nothing";
     EXPECT_NE(::GetFocus(), host.m_hWnd);
-    EXPECT_TRUE(::IsWindowEnabled(Window()));
-    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
 }
 
 TEST_P(ChildDialog, OnlyRepaintsAfterAnyOtherResult)
 {
     ::SetFocus(Links().Window());
-    EXPECT_EQ(RepaintsOf([this] {
-                  Command(GetParam().command,
-                          {[this] { static_cast<CDialog*>(CWnd::FromHandlePermanent(Child()))->EndDialog(77); }});
-              }),
-              1);
+    EXPECT_EQ(RepaintsOf([this] { Command(GetParam().command, {[this] { EndChildWith(77); }}); }), 1);
     EXPECT_NE(::GetFocus(), host.m_hWnd);
 }
 
@@ -161,9 +172,9 @@ TEST_F(ChildDialogs, EndModalDoesNothingWithoutOne)
 {
     dialog->EndModal();
     OpenWith(kAnalytic);
-    EXPECT_EQ(RepaintsOf([this] { dialog->EndModal(); }), 0);
+    ExpectNoRepaintBy([this] { dialog->EndModal(); });
     FillChain();
-    EXPECT_EQ(RepaintsOf([this] { dialog->EndModal(); }), 0) << "the old child objects have no window";
+    ExpectNoRepaintBy([this] { dialog->EndModal(); });  // the old child objects have no window
     EXPECT_TRUE(::IsWindowVisible(Window()));
     EXPECT_TRUE(Codes().empty());
 }
@@ -189,7 +200,10 @@ TEST_F(ChildDialogs, LinkCommandsDoNothingWithTheFocusOnTheChainRow)
     FocusOnChain();
     for (const UINT command : {ID_LINK_EDIT, ID_CONTEXT_LINK_EDIT, ID_LINK_DELETE, ID_CONTEXT_LINK_DELETE,
                                ID_LINK_DISTRIBUTION, ID_CONTEXT_LINK_DISTRIBUTION, ID_CONTEXT_LINK_WEIGHT})
-        EXPECT_EQ(RepaintsOf([&] { Command(command); }), 0) << command;
+    {
+        SCOPED_TRACE(command);
+        ExpectNoRepaintBy([&] { Command(command); });
+    }
     EXPECT_TRUE(Codes().empty());
     EXPECT_EQ(Objects().size(), 2U);
 }
@@ -198,7 +212,10 @@ TEST_F(ChildDialogs, LinkCommandsDoNothingWithoutAFocusRow)
 {
     OpenWith(kProbabilistic);
     for (const UINT command : {ID_LINK_EDIT, ID_LINK_DELETE, ID_LINK_DISTRIBUTION, ID_CONTEXT_LINK_WEIGHT})
-        EXPECT_EQ(RepaintsOf([&] { Command(command); }), 0) << command;
+    {
+        SCOPED_TRACE(command);
+        ExpectNoRepaintBy([&] { Command(command); });
+    }
     EXPECT_TRUE(Codes().empty());
 }
 
@@ -227,7 +244,7 @@ TEST_F(ChildDialogs, TheItemWithoutAHandlerDoesNothing)
     OpenWith(kAnalytic);
     FillChain();
     FocusOnLink(0);
-    EXPECT_EQ(RepaintsOf([this] { Command(32774); }), 0);
+    ExpectNoRepaintBy([this] { Command(32774); });
     EXPECT_TRUE(Codes().empty());
     EXPECT_EQ(Child(), nullptr);
 }

@@ -153,7 +153,7 @@ using Resetting = ClosingTheDialog;
 
 TEST_F(Resetting, ClearsWithoutANotificationAndWithoutARepaint)
 {
-    EXPECT_EQ(RepaintsOf([this] { dialog->CancelDialog(); }), 0);
+    ExpectNoRepaintBy([this] { dialog->CancelDialog(); });
     ExpectCleared();
     EXPECT_TRUE(Codes().empty());
 }
@@ -257,6 +257,6 @@ TEST_F(Resetting, LeavesAnOpenWeightDialogWithoutLinks)
 
 INSTANTIATE_TEST_SUITE_P(Kinds, ChildAfterAReset,
                          testing::Values(kLinkChild, kClosingChild, kDistributionChild, kWeightChild),
-                         [](const testing::TestParamInfo<ChildKind>& kind) { return kind.param.name; });
+                         testing::PrintToStringParamName());
 
 }  // namespace

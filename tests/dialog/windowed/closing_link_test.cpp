@@ -18,11 +18,6 @@ protected:
                     ClickChild(IDC_CLOSING_OK);
                 }});
     }
-
-    void EndChildWith(int result) const
-    {
-        static_cast<CDialog*>(CWnd::FromHandlePermanent(Child()))->EndDialog(result);
-    }
 };
 
 const std::vector<CString> kEmptyRow{L"      X", L"", L"", L"", L""};
@@ -117,13 +112,12 @@ TEST_F(ClosingLinkTest, GetsARecord)
 
 TEST_F(ClosingLinkTest, DoesNotRepaintWhenTheHostSetsIt)
 {
-    int repaints = -1;
-    host.On(kClosingAccepted, [&] { repaints = RepaintsOf([this] { dialog->AddCloseDimToList(&closingObject); }); });
+    host.On(kClosingAccepted, [this] { ExpectNoRepaintBy([this] { dialog->AddCloseDimToList(&closingObject); }); });
     Command(ID_CLOSING_ADD, {[this] {
                 LoadClosing(Dimension(L"", L"6", L"0.15", L"-0.15"));
                 ClickChild(IDC_CLOSING_OK);
             }});
-    EXPECT_EQ(repaints, 0);
+    EXPECT_EQ(dialog->GetCloseObject(), &closingObject);
 }
 
 TEST_F(ClosingLinkTest, IsReplacedByTheNextOne)
@@ -165,6 +159,20 @@ TEST_F(ClosingLinkTest, TakesTheFocusOfItsListAfterOkWithoutANotification)
     EXPECT_EQ(Closing().Grid().FocusColumn(), -1) << "as a whole row";
     EXPECT_EQ(dialog->FocusNotifications(), before);
     EXPECT_EQ(::GetFocus(), host.m_hWnd);
+}
+
+TEST_F(ClosingLinkTest, TakesTheFocusOfItsListAfterOkEvenWhenTheHostDoesNotAnswer)
+{
+    Command(ID_CLOSING_ADD, {[this] { ClickChild(IDC_CLOSING_OK); }});
+    EXPECT_EQ(Closing().Record(0), nullptr);
+    EXPECT_EQ(Closing().FocusRow(), 0);
+}
+
+TEST_F(ClosingLinkTest, LeavesTheFocusRowAfterCancelEvenWhenItWasAdded)
+{
+    AddClosing(Dimension(L"", L"6", L"0.15", L"-0.15"), &closingObject);
+    EXPECT_EQ(dialog->GetCloseObject(), &closingObject);
+    EXPECT_EQ(Closing().FocusRow(), -1);
 }
 
 TEST_F(ClosingLinkTest, RepaintsOnceAfterOk)

@@ -5,6 +5,7 @@
 
 #include "platform/moduleskin/module_skin.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
+#include "tests/support/pixels.h"
 #include "tests/support/resource_count.h"
 
 namespace
@@ -114,7 +115,8 @@ TEST_F(Creation, ShowsTheClosingRowWithACheckBox)
     EXPECT_EQ(closing.Row(0).UserData(), nullptr);
 }
 
-void ExpectImages(const ListView& list, int width, int height)
+/// The list's images are those of the strip, in its order.
+void ExpectImages(const ListView& list, UINT strip, int count, int width, int height)
 {
     const HIMAGELIST images = ListView_GetImageList(list.Window(), LVSIL_SMALL);
     ASSERT_NE(images, nullptr);
@@ -129,16 +131,33 @@ void ExpectImages(const ListView& list, int width, int height)
     ASSERT_NE(::GetObjectW(image.hbmImage, sizeof(bitmap), &bitmap), 0);
     EXPECT_EQ(bitmap.bmBitsPixel, 16);
     EXPECT_NE(image.hbmMask, nullptr);
+
+    const CModuleSkin skin(kModuleCalcTol);
+    const Pixels expected = BitmapPixels(strip);
+    EXPECT_EQ(ImageList_GetImageCount(images), count);
+    EXPECT_EQ(expected.width, count * width);
+    const Pixels shown = PaintedPixels(count * width, height, [&](CDC& dc) {
+        dc.FillSolidRect(CRect(0, 0, count * width, height), RGB(255, 0, 255));
+        for (int i = 0; i < count; ++i)
+            ImageList_Draw(images, i, dc.m_hDC, i * width, 0, ILD_TRANSPARENT);
+    });
+    // The list keeps five bits of each primary colour.
+    constexpr std::uint32_t kKeptBits = 0xF8F8F8;
+    int different = 0;
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < count * width; ++x)
+            different += (shown.At(x, y) & kKeptBits) != (expected.At(x, y) & kKeptBits) ? 1 : 0;
+    EXPECT_EQ(different, 0);
 }
+
+constexpr UINT kChainStrip = 1004;
+constexpr UINT kClosingStrip = 1001;
 
 TEST_F(Creation, GivesTheListsTheirImages)
 {
     Open();
-    ExpectImages(Links(), 16, 16);
-    ExpectImages(Closing(), 25, 16);
-    EXPECT_GE(ImageList_GetImageCount(ListView_GetImageList(Links().Window(), LVSIL_SMALL)), 12)
-        << "expand, collapse, chain and the three kinds 9 to 11";
-    EXPECT_GE(ImageList_GetImageCount(ListView_GetImageList(Closing().Window(), LVSIL_SMALL)), 1);
+    ExpectImages(Links(), kChainStrip, 12, 16, 16);
+    ExpectImages(Closing(), kClosingStrip, 1, 25, 16);
 }
 
 // Drawn on two grounds: where both show, the image is transparent.
@@ -370,7 +389,7 @@ TEST_F(Creation, StartsAnewAfterTheWindowWasDestroyed)
     ASSERT_EQ(Closing().Rows(), 1);
     EXPECT_EQ(Closing().Row(0).ItemCount(), 5);
     EXPECT_EQ(Closing().Row(0).UserData(), nullptr);
-    ExpectImages(links, 16, 16);
+    ExpectImages(links, kChainStrip, 12, 16, 16);
     EXPECT_TRUE(Objects().empty());
 }
 

@@ -59,7 +59,7 @@ TEST_F(DeletingLinks, HandsTheFocusToTheNextLinkThenToThePreviousThenToTheChain)
 TEST_F(DeletingLinks, DoesNothingWithTheFocusOnTheChainRow)
 {
     FocusOnChain();
-    EXPECT_EQ(RepaintsOf([this] { Command(ID_LINK_DELETE); }), 0);
+    ExpectNoRepaintBy([this] { Command(ID_LINK_DELETE); });
     EXPECT_EQ(Objects().size(), 3U);
     EXPECT_TRUE(Codes().empty());
 }
@@ -70,7 +70,7 @@ TEST_F(DeletingLinks, DoesNothingWithoutAFocusRow)
     dialog = std::make_unique<WatchedDialog>();
     OpenWith(kAnalytic);
     ASSERT_EQ(Links().FocusRow(), -1);
-    EXPECT_EQ(RepaintsOf([this] { Command(ID_LINK_DELETE); }), 0);
+    ExpectNoRepaintBy([this] { Command(ID_LINK_DELETE); });
     EXPECT_EQ(Links().Rows(), 1);
 }
 

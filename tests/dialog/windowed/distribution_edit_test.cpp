@@ -213,20 +213,19 @@ TEST_F(EditingADistribution, StoresNothingWithoutAClosingLink)
 TEST_F(EditingADistribution, OfTheClosingLinkNeedsARecord)
 {
     Command(ID_CLOSING_DELETE);
-    EXPECT_EQ(RepaintsOf([this] { Command(ID_CLOSING_DISTRIBUTION); }), 0);
+    ExpectNoRepaintBy([this] { Command(ID_CLOSING_DISTRIBUTION); });
     EXPECT_TRUE(Codes().empty());
     EXPECT_EQ(Child(), nullptr);
 }
 
 TEST_F(EditingADistribution, DoesNotRepaintInTheWriteBack)
 {
-    EXPECT_EQ(RepaintsOf([this] {
-                  CVariableParams params;
-                  params.law = 2;
-                  dialog->SetVariableFRowData(params);
-                  dialog->SetVariableCloseFRowData(params);
-              }),
-              0);
+    ExpectNoRepaintBy([this] {
+        CVariableParams params;
+        params.law = 2;
+        dialog->SetVariableFRowData(params);
+        dialog->SetVariableCloseFRowData(params);
+    });
 }
 
 }  // namespace

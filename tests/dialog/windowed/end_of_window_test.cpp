@@ -178,7 +178,7 @@ TEST_P(ChildAtTheEnd, IsForgottenWithTheWindow)
 
 INSTANTIATE_TEST_SUITE_P(Kinds, ChildAtTheEnd,
                          testing::Values(kLinkChild, kClosingChild, kDistributionChild, kWeightChild),
-                         [](const testing::TestParamInfo<ChildKind>& kind) { return kind.param.name; });
+                         testing::PrintToStringParamName());
 
 // The contract: a child's record can be read late, and is empty after the child has reported.
 using LateCalls = CalcDialogTest;

@@ -25,17 +25,6 @@ protected:
     static const ChildKind& Kind() { return std::get<ChildKind>(GetParam()); }
     static bool ByOk() { return std::get<bool>(GetParam()); }
     static int Button() { return ByOk() ? Kind().ok : Kind().cancel; }
-
-    void EndChildWith(int result) const
-    {
-        static_cast<CDialog*>(CWnd::FromHandlePermanent(Child()))->EndDialog(result);
-    }
-
-    void OpenAnew()
-    {
-        dialog->DestroyWindow();
-        dialog->Create(&host);
-    }
 };
 
 std::string NameOf(const testing::TestParamInfo<Ending>& ending)
@@ -100,7 +89,7 @@ using AnyOtherResult = EachChild;
 INSTANTIATE_TEST_SUITE_P(Kinds, AnyOtherResult,
                          testing::Values(kLinkChild, kClosingChild, kDistributionChild, kWeightChild, kNewLinkChild,
                                          kNewClosingChild),
-                         [](const testing::TestParamInfo<ChildKind>& kind) { return kind.param.name; });
+                         testing::PrintToStringParamName());
 
 TEST_P(AnyOtherResult, LeavesTheActivationToAnotherWindow)
 {
@@ -108,7 +97,7 @@ TEST_P(AnyOtherResult, LeavesTheActivationToAnotherWindow)
     RecordingWindow other(200, 100);
     Command(GetParam().command, {[&] {
                 other.SetActiveWindow();
-                static_cast<CDialog*>(CWnd::FromHandlePermanent(Child()))->EndDialog(7);
+                EndChildWith(7);
             }});
     EXPECT_EQ(::GetActiveWindow(), other.m_hWnd);
 }
@@ -119,7 +108,7 @@ using DisablingTheHost = EachChild;
 INSTANTIATE_TEST_SUITE_P(Kinds, DisablingTheHost,
                          testing::Values(kLinkChild, kClosingChild, kDistributionChild, kWeightChild, kNewLinkChild,
                                          kNewClosingChild),
-                         [](const testing::TestParamInfo<ChildKind>& kind) { return kind.param.name; });
+                         testing::PrintToStringParamName());
 
 TEST_P(DisablingTheHost, MayDeleteTheDialogWhoseChildIsToOpen)
 {
@@ -132,15 +121,10 @@ TEST_P(DisablingTheHost, MayDeleteTheDialogWhoseChildIsToOpen)
 
 TEST_P(DisablingTheHost, MayOpenTheWindowAnewOfTheDialogWhoseChildIsToOpen)
 {
-    host.OnDisabled([this] {
-        dialog->DestroyWindow();
-        dialog->Create(&host);
-    });
+    host.OnDisabled([this] { OpenAnew(); });
     Command(GetParam().command);
-    EXPECT_EQ(Child(), nullptr);
+    ExpectNoChild();
     EXPECT_TRUE(::IsWindowVisible(Window()));
-    EXPECT_TRUE(::IsWindowEnabled(Window()));
-    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
 }
 
 // The child that the host opens meanwhile takes the place of the one that was to open.
@@ -192,7 +176,7 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Kinds, EnablingTheHost, testing::Values(kDistributionChild, kWeightChild),
-                         [](const testing::TestParamInfo<ChildKind>& kind) { return kind.param.name; });
+                         testing::PrintToStringParamName());
 
 TEST_P(EnablingTheHost, MayDeleteTheDialogWhoseChildEnds)
 {
@@ -259,10 +243,7 @@ TEST_P(EnablingTheHost, MayDestroyTheWindowOfTheDialogWhoseChildIsReplaced)
 
 TEST_P(EnablingTheHost, MayOpenTheWindowAnewOfTheDialogWhoseChildIsReplaced)
 {
-    Replace([this] {
-        dialog->DestroyWindow();
-        dialog->Create(&host);
-    });
+    Replace([this] { OpenAnew(); });
     EXPECT_EQ(Codes(), atOpening);
     EXPECT_EQ(Child(), nullptr);
     EXPECT_TRUE(::IsWindowEnabled(Window()));
@@ -299,9 +280,7 @@ TEST_P(EnablingTheHost, MayRunTheCommandWhenTheChildIsReplaced)
                 Command(GetParam().command, {step});
             }});
     EXPECT_EQ(opened, 2);
-    EXPECT_EQ(Child(), nullptr);
-    EXPECT_TRUE(::IsWindowEnabled(Window()));
-    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+    ExpectNoChild();
 }
 
 }  // namespace

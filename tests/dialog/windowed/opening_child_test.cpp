@@ -24,7 +24,7 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(Kinds, OpeningToleranceDialog,
                          testing::Values(kLinkChild, kClosingChild, kNewLinkChild, kNewClosingChild),
-                         [](const testing::TestParamInfo<ChildKind>& kind) { return kind.param.name; });
+                         testing::PrintToStringParamName());
 
 TEST_P(OpeningToleranceDialog, MayBeGivenADimension)
 {
@@ -80,15 +80,10 @@ TEST_P(OpeningToleranceDialog, MayLoseItsDialogsWindow)
 
 TEST_P(OpeningToleranceDialog, MayHaveItsDialogsWindowOpenedAnew)
 {
-    host.OnEnabled([this] {
-        dialog->DestroyWindow();
-        dialog->Create(&host);
-    });
+    host.OnEnabled([this] { OpenAnew(); });
     Command(GetParam().command);
-    EXPECT_EQ(Child(), nullptr);
+    ExpectNoChild();
     EXPECT_TRUE(::IsWindowVisible(Window()));
-    EXPECT_TRUE(::IsWindowEnabled(Window()));
-    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
     PumpUntilIdle();
 }
 

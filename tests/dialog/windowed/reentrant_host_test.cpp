@@ -86,8 +86,7 @@ private:
     int m_reached = 0;
 };
 
-INSTANTIATE_TEST_SUITE_P(Inside, ReentrantHost, testing::ValuesIn(kOccasions),
-                         [](const testing::TestParamInfo<Occasion>& occasion) { return occasion.param.name; });
+INSTANTIATE_TEST_SUITE_P(Inside, ReentrantHost, testing::ValuesIn(kOccasions), testing::PrintToStringParamName());
 
 TEST_P(ReentrantHost, MayDestroyTheWindow)
 {
@@ -115,16 +114,11 @@ TEST_P(ReentrantHost, MayDeleteTheDialog)
 TEST_P(ReentrantHost, MayOpenTheWindowAnew)
 {
     m_opensAfterwards = false;
-    InsideTheNotification([this] {
-        dialog->DestroyWindow();
-        dialog->Create(&host);
-    });
+    InsideTheNotification([this] { OpenAnew(); });
     Cause();
     EXPECT_EQ(host.Notifications().back(), GetParam().code) << "nothing follows";
-    EXPECT_EQ(Child(), nullptr);
+    ExpectNoChild();
     EXPECT_TRUE(::IsWindowVisible(Window()));
-    EXPECT_TRUE(::IsWindowEnabled(Window()));
-    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
     EXPECT_TRUE(Objects().empty());
     EXPECT_EQ(Links().FocusRow(), -1);
     EXPECT_EQ(Closing().FocusRow(), -1);
@@ -134,9 +128,7 @@ TEST_P(ReentrantHost, MayEndTheModalDialog)
 {
     InsideTheNotification([this] { dialog->EndModal(); });
     Cause();
-    EXPECT_EQ(Child(), nullptr);
-    EXPECT_TRUE(::IsWindowEnabled(Window()));
-    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+    ExpectNoChild();
 }
 
 // The same command once more, from inside: another dialog of the kind opens and is ended.
@@ -153,9 +145,7 @@ TEST_P(ReentrantHost, MayStartTheSameCommandAgain)
         m_opensAfterwards = false;  // the first one was filled already, and the second one took its place
     Cause();
     EXPECT_TRUE(opened);
-    EXPECT_EQ(Child(), nullptr);
-    EXPECT_TRUE(::IsWindowEnabled(Window()));
-    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+    ExpectNoChild();
 }
 
 // One occasion for each handler that goes on behind its notification.
@@ -164,8 +154,7 @@ constexpr Occasion kDifferentHandlers[] = {kOccasions[0],  kOccasions[1],  kOcca
 
 using MilderHost = ReentrantHost;
 
-INSTANTIATE_TEST_SUITE_P(Inside, MilderHost, testing::ValuesIn(kDifferentHandlers),
-                         [](const testing::TestParamInfo<Occasion>& occasion) { return occasion.param.name; });
+INSTANTIATE_TEST_SUITE_P(Inside, MilderHost, testing::ValuesIn(kDifferentHandlers), testing::PrintToStringParamName());
 
 TEST_P(MilderHost, MayResetTheDialog)
 {
@@ -270,9 +259,7 @@ TEST_P(NestedChild, MayBeOpenedAgainWhileOneOfItsKindRuns)
     EXPECT_NE(second, nullptr);
     EXPECT_NE(first, second);
     EXPECT_TRUE(firstIsGone);
-    EXPECT_EQ(Child(), nullptr);
-    EXPECT_TRUE(::IsWindowEnabled(Window()));
-    EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+    ExpectNoChild();
 }
 
 TEST_P(NestedChild, RepaintsTwiceWhenItWasReplaced)
@@ -292,6 +279,28 @@ TEST_P(NestedChild, MayBeReplacedByOneThatTheHostEnds)
     EXPECT_TRUE(::IsWindowEnabled(Window()));
 }
 
+// The second of three ends last, although the first one has given the calculation dialog back before.
+TEST_P(NestedChild, MayBeReplacedWhileOneOfAnotherKindRuns)
+{
+    const ChildKind& other = GetParam().command == kDistributionChild.command ? kWeightChild : kDistributionChild;
+    bool replaced = false;
+    Command(GetParam().command, {[&] {
+                const HWND first = Child();
+                Command(other.command, {[&] {
+                            Command(GetParam().command, {[&] {
+                                        replaced = !::IsWindow(first) && ChildControl(GetParam().ownControl) != nullptr;
+                                        EXPECT_FALSE(::IsWindowEnabled(Window()));
+                                        ClickChild(GetParam().cancel);
+                                    }});
+                            EXPECT_FALSE(::IsWindowEnabled(Window()));
+                            EXPECT_NE(ChildControl(other.ownControl), nullptr);
+                            ClickChild(other.cancel);
+                        }});
+            }});
+    EXPECT_TRUE(replaced);
+    ExpectNoChild();
+}
+
 TEST_P(NestedChild, MayBeOpenWithOneOfEachOtherKind)
 {
     Command(GetParam().command, {[this] {
@@ -307,7 +316,7 @@ TEST_P(NestedChild, MayBeOpenWithOneOfEachOtherKind)
 
 INSTANTIATE_TEST_SUITE_P(Kinds, NestedChild,
                          testing::Values(kLinkChild, kClosingChild, kDistributionChild, kWeightChild),
-                         [](const testing::TestParamInfo<ChildKind>& kind) { return kind.param.name; });
+                         testing::PrintToStringParamName());
 
 using SilentHost = CalcDialogTest;
 

@@ -5,6 +5,73 @@
 namespace
 {
 
+// What is the same for both.
+class EditingATolerance : public EachChild
+{
+protected:
+    static bool IsClosing() { return GetParam().ownControl == IDC_CLOSING_FIELD; }
+    static ChildKind NewOne() { return IsClosing() ? kNewClosingChild : kNewLinkChild; }
+
+    CString NominalOfTheRecord() const
+    {
+        CDimParams params;
+        IsClosing() ? dialog->GetCloseDimDlgParams(params) : dialog->GetDimDlgParams(params);
+        return params.nominal;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Of, EditingATolerance, testing::Values(kLinkChild, kClosingChild),
+                         testing::PrintToStringParamName());
+
+TEST_P(EditingATolerance, TellsTheHostBeforeItsDialogOpens)
+{
+    bool open = true;
+    host.On(kEditBegins, [&] { open = Child() != nullptr; });
+    Command(GetParam().command, {[this] { ClickChild(GetParam().cancel); }});
+    EXPECT_FALSE(open);
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 3}));
+}
+
+TEST_P(EditingATolerance, TellsTheHostWhileTheLastDialogsRecordCanBeRead)
+{
+    Command(NewOne().command, {[this] {
+                const CDimParams picked = Dimension(L"B", L"25", L"0.2", L"-0.1");
+                IsClosing() ? LoadClosing(picked) : Load(picked);
+                dialog->EndModal();
+            }});
+    CString inside;
+    CString afterwards;
+    host.On(kEditBegins, [&] { inside = NominalOfTheRecord(); });
+    Command(GetParam().command, {[&] {
+                afterwards = NominalOfTheRecord();
+                ClickChild(GetParam().cancel);
+            }});
+    EXPECT_EQ(inside, L"25") << "the next one has not taken its place yet";
+    EXPECT_EQ(afterwards, IsClosing() ? L"6" : L"10") << "the row's";
+}
+
+using EditingWithoutAMethod = CalcDialogTest;
+
+// The context menus offer it then, too.
+TEST_F(EditingWithoutAMethod, OpensTheToleranceDialogs)
+{
+    Open();
+    FillChain();
+    FocusOnLink(0);
+    for (const auto& [command, child] :
+         {std::pair(ID_CONTEXT_LINK_EDIT, kLinkChild), std::pair(ID_CONTEXT_CLOSING_EDIT, kClosingChild)})
+    {
+        bool rightKind = false;
+        host.Forget();
+        Command(command, {[&, &kind = child] {
+                    rightKind = ChildControl(kind.ownControl) != nullptr;
+                    ClickChild(kind.cancel);
+                }});
+        EXPECT_TRUE(rightKind) << child.name;
+        EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 3})) << child.name;
+    }
+}
+
 class EditingALink : public CalcDialogTest
 {
 protected:
@@ -26,32 +93,6 @@ protected:
         EXPECT_EQ(Links().Record(2)->increasing, 0);
     }
 };
-
-TEST_F(EditingALink, TellsTheHostBeforeItsDialogOpens)
-{
-    bool open = true;
-    host.On(kEditBegins, [&] { open = Child() != nullptr; });
-    Command(ID_LINK_EDIT, {[this] { ClickChild(IDC_LINK_CANCEL); }});
-    EXPECT_FALSE(open);
-    EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 3}));
-}
-
-TEST_F(EditingALink, TellsTheHostWhileTheLastDialogsRecordCanBeRead)
-{
-    Command(ID_LINK_ADD, {[this] {
-                Load(Dimension(L"A1", L"25", L"0.2", L"-0.1"));
-                dialog->EndModal();
-            }});
-    CDimParams inside;
-    CDimParams afterwards;
-    host.On(kEditBegins, [&] { dialog->GetDimDlgParams(inside); });
-    Command(ID_LINK_EDIT, {[&] {
-                dialog->GetDimDlgParams(afterwards);
-                ClickChild(IDC_LINK_CANCEL);
-            }});
-    EXPECT_EQ(inside.nominal, L"25") << "the next one has not taken its place yet";
-    EXPECT_EQ(afterwards.nominal, L"4") << "the row's";
-}
 
 TEST_F(EditingALink, FillsTheRecordFromTheRow)
 {
@@ -100,6 +141,29 @@ TEST_F(EditingALink, ShowsTheRow)
     EXPECT_EQ(lower, L"0");
     EXPECT_TRUE(fixed);
     EXPECT_EQ(direction, 1) << "decreasing";
+}
+
+TEST_F(EditingALink, ShowsWhatTheHostWritesInsideTheNotification)
+{
+    host.On(kEditBegins, [this] {
+        CDimParams params = Dimension(L"fresh", L"4", L"0.3", L"0", 1);
+        dialog->SetCurrentFRowData(params);
+    });
+    CString name;
+    CString upper;
+    LRESULT direction = -1;
+    CDimParams record;
+    Command(ID_LINK_EDIT, {[&] {
+                name = ChildText(IDC_LINK_NAME);
+                upper = ChildText(IDC_LINK_UPPER_DEV);
+                direction = ::SendMessageW(ChildControl(IDC_LINK_DIRECTION), CB_GETCURSEL, 0, 0);
+                dialog->GetDimDlgParams(record);
+                ClickChild(IDC_LINK_CANCEL);
+            }});
+    EXPECT_EQ(name, L"fresh");
+    EXPECT_EQ(upper, L"0.3");
+    EXPECT_EQ(direction, 0) << "increasing";
+    EXPECT_EQ(record.increasing, 1);
 }
 
 TEST_F(EditingALink, FillsKind0ForALinkWithoutAnImage)
@@ -212,11 +276,10 @@ TEST_F(EditingALink, TakesEveryValueButZeroForAFixedWeight)
 
 TEST_F(EditingALink, DoesNotRepaintInTheWriteBack)
 {
-    EXPECT_EQ(RepaintsOf([this] {
-                  CDimParams params = Dimension(L"A2", L"4", L"1", L"0");
-                  dialog->SetCurrentFRowData(params);
-              }),
-              0);
+    ExpectNoRepaintBy([this] {
+        CDimParams params = Dimension(L"A2", L"4", L"1", L"0");
+        dialog->SetCurrentFRowData(params);
+    });
 }
 
 TEST_F(EditingALink, WritesNothingBackWithTheFocusOnTheChainRow)
@@ -254,32 +317,6 @@ protected:
         AddClosing(closing, &closingObject);
     }
 };
-
-TEST_F(EditingTheClosingLink, TellsTheHostBeforeItsDialogOpens)
-{
-    bool open = true;
-    host.On(kEditBegins, [&] { open = Child() != nullptr; });
-    Command(ID_CLOSING_EDIT, {[this] { ClickChild(IDC_CLOSING_CANCEL); }});
-    EXPECT_FALSE(open);
-    EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 3}));
-}
-
-TEST_F(EditingTheClosingLink, TellsTheHostWhileTheLastDialogsRecordCanBeRead)
-{
-    Command(ID_CLOSING_ADD, {[this] {
-                LoadClosing(Dimension(L"A1", L"25", L"0.2", L"-0.1"));
-                dialog->EndModal();
-            }});
-    CDimParams inside;
-    CDimParams afterwards;
-    host.On(kEditBegins, [&] { dialog->GetCloseDimDlgParams(inside); });
-    Command(ID_CLOSING_EDIT, {[&] {
-                dialog->GetCloseDimDlgParams(afterwards);
-                ClickChild(IDC_CLOSING_CANCEL);
-            }});
-    EXPECT_EQ(inside.nominal, L"25") << "the next one has not taken its place yet";
-    EXPECT_EQ(afterwards.nominal, L"6") << "the row's";
-}
 
 TEST_F(EditingTheClosingLink, FillsTheRecordFromTheRow)
 {
@@ -358,11 +395,10 @@ TEST_F(EditingTheClosingLink, IsWrittenBackByTheHostWithItsNominal)
 
 TEST_F(EditingTheClosingLink, DoesNotRepaintInTheWriteBack)
 {
-    EXPECT_EQ(RepaintsOf([this] {
-                  CDimParams params = Dimension(L"", L"4", L"1", L"0");
-                  dialog->SetCloseFRowData(params);
-              }),
-              0);
+    ExpectNoRepaintBy([this] {
+        CDimParams params = Dimension(L"", L"4", L"1", L"0");
+        dialog->SetCloseFRowData(params);
+    });
 }
 
 TEST_F(EditingTheClosingLink, OpensEmptyAfterItWasDeleted)
