@@ -49,7 +49,8 @@ bool CCalcTolDlg::HasLinks() const
     return chain != nullptr && chain->FirstChild() != nullptr;
 }
 
-// The row does not appear before the chain row is expanded: the command that opened the tolerance dialog does that.
+// The row does not appear before the chain row is expanded: the command that opened the tolerance dialog does that. It
+// has its record from the beginning, because it belongs to the chain even when the list fails to show it.
 void CCalcTolDlg::AddToList(void* hostObject)
 {
     const CModuleSkin skin(kModuleCalcTol);
@@ -57,9 +58,14 @@ void CCalcTolDlg::AddToList(void* hostObject)
         return;
     const CDimParams params = m_editTolDlg->Params();
     std::unique_ptr<CDimLink> record = NewRecord(hostObject, params);
-    const RowKey key =
-        m_chainList.AddChildRow(m_chainRow, m_chainList.CreateRow(params.name, LinkImage(params.dimKind)));
-    m_chainList.FindRow(key)->SetUserData(record.release());
+    Row* const row = m_chainList.CreateRow(params.name, LinkImage(params.dimKind), record.get());
+    const CDimLink* const owned = record.release();
+    const RowKey key = m_chainList.AddChildRow(m_chainRow, row);
+    if (key == nullptr)  // the window has gone meanwhile, and the row with it
+    {
+        delete owned;
+        return;
+    }
     m_chainList.SetCellText(key, kColumnNominal, params.nominal);
     m_chainList.SetCellText(key, kColumnField, params.tolField);
     m_chainList.SetCellText(key, kColumnUpperDev, params.upperDev);

@@ -26,11 +26,6 @@ protected:
         PumpUntilIdle();
         ASSERT_EQ(Links().Rows(), 1);
     }
-
-    void EndChildWith(int result) const
-    {
-        static_cast<CDialog*>(CWnd::FromHandlePermanent(Child()))->EndDialog(result);
-    }
 };
 
 TEST_F(AddingLinks, TellTheHostBeforeTheDialogOpens)
@@ -272,9 +267,8 @@ TEST_F(AddingLinks, TakeTheSameObjectTwice)
 TEST_F(AddingLinks, ShowNothingBeforeTheChainIsExpanded)
 {
     int rows = -1;
-    int repaints = -1;
     host.On(kLinkAccepted, [&] {
-        repaints = RepaintsOf([this] { dialog->AddToList(&objects[0]); });
+        ExpectNoRepaintBy([this] { dialog->AddToList(&objects[0]); });
         rows = Links().Rows();
     });
     Command(ID_LINK_ADD, {[this] {
@@ -282,7 +276,6 @@ TEST_F(AddingLinks, ShowNothingBeforeTheChainIsExpanded)
                 ClickChild(IDC_LINK_OK);
             }});
     EXPECT_EQ(rows, 1);
-    EXPECT_EQ(repaints, 0) << "AddToList does not repaint";
     EXPECT_EQ(Links().Rows(), 2);
 }
 
@@ -298,6 +291,43 @@ TEST_F(AddingLinks, ShowAtOnceWhatComesToAnExpandedChain)
             }});
     EXPECT_EQ(rows, 3);
     EXPECT_EQ(Links().Text(2, 1), L"5");
+}
+
+/// Refuses new rows, as a list view does that has no memory left.
+LRESULT CALLBACK RefuseRows(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == LVM_INSERTITEMW)
+        return -1;
+    return ::CallWindowProcW(reinterpret_cast<WNDPROC>(::GetPropW(window, L"former")), window, message, wParam, lParam);
+}
+
+// The row is part of the chain, whether it is shown or not.
+TEST_F(AddingLinks, LeaveNoLinkWithoutARecordWhenTheListFails)
+{
+    AddLink(Dimension(L"A1", L"25", L"0.2", L"-0.1"), &objects[0]);
+    const HWND list = Links().Window();
+    Command(ID_LINK_ADD, {[&] {
+                Load(Dimension(L"A2", L"5", L"0.2", L"-0.1"));
+                const LONG_PTR former = ::GetWindowLongPtrW(list, GWLP_WNDPROC);
+                ::SetPropW(list, L"former", reinterpret_cast<HANDLE>(former));
+                ::SetWindowLongPtrW(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&RefuseRows));
+                try
+                {
+                    dialog->AddToList(&objects[1]);
+                    ADD_FAILURE() << "the list did not fail";
+                }
+                catch (CMemoryException* exception)
+                {
+                    exception->Delete();
+                }
+                ::SetWindowLongPtrW(list, GWLP_WNDPROC, former);
+                ::RemovePropW(list, L"former");
+                dialog->EndModal();
+            }});
+    const std::vector<WeightLink> links = Model();
+    ASSERT_EQ(links.size(), 2U);
+    ASSERT_NE(links[1].record, nullptr);
+    EXPECT_EQ(links[1].record->hostObject, &objects[1]);
 }
 
 // --- how the command ends ---

@@ -164,6 +164,27 @@ TEST_F(Leaks, AreTheSameWhenTheObjectGoesWithItsWindow)
     });
 }
 
+// The list closes its editor before it takes a row, and tells the dialog that it has the keyboard again.
+TEST_F(Leaks, AreNoneWhenTheWindowGoesWhileALinkIsAdded)
+{
+    ExpectNothingLeftBy([this] {
+        Renew();
+        FillChain();
+        OpenAndCancel(kNewLinkChild);
+        OpenAndCancel(kNewClosingChild);
+        ClickCell(Links(), 1, 5);
+        ASSERT_TRUE(Links().Grid().HasEditor());
+        dialog->OnNotified(NM_SETFOCUS, [this] {
+            dialog->CancelDialog();
+            dialog->DestroyWindow();
+        });
+        dialog->AddToList(&objects[2]);
+        EXPECT_EQ(Window(), nullptr);
+        dialog.reset();
+        DeleteChildren();
+    });
+}
+
 TEST_F(Leaks, AreTheFirstClosingRecordWhenASecondOneComes)
 {
     ExpectNothingLeftBy([this] {

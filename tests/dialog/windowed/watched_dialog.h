@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "dialog/calc_tol_dlg.h"
@@ -14,6 +16,12 @@ public:
     /// How often a grid has told it of a moved focus.
     int FocusNotifications() const { return m_focusNotifications; }
     int CancelDialogCalls() const { return m_cancelDialogCalls; }
+    /// Done the next time that one of its controls notifies it of that.
+    void OnNotified(UINT code, std::function<void()> action)
+    {
+        m_awaitedCode = code;
+        m_whenNotified = std::move(action);
+    }
 
     void CancelDialog() override
     {
@@ -26,8 +34,12 @@ protected:
     {
         if (message == WM_ERASEBKGND)
             m_erased = true;
-        if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lParam)->code == kGridFocusMoved)
+        const UINT notified = message == WM_NOTIFY ? reinterpret_cast<const NMHDR*>(lParam)->code : 0;
+        if (notified == kGridFocusMoved)
             ++m_focusNotifications;
+        if (notified != 0 && notified == m_awaitedCode)
+            if (const auto action = std::exchange(m_whenNotified, nullptr))
+                action();
         if (message != WM_PAINT)
             return OnReleasedPages<CCalcTolDlg>::WindowProc(message, wParam, lParam);
         CRect client;
@@ -45,4 +57,6 @@ private:
     int m_repaints = 0;
     int m_focusNotifications = 0;
     int m_cancelDialogCalls = 0;
+    UINT m_awaitedCode = 0;
+    std::function<void()> m_whenNotified;
 };
