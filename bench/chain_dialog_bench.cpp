@@ -144,7 +144,7 @@ double RepaintTime(CBenchHost& host)
            kRepaints;
 }
 
-// The picture's GDI calls alone: memory, white ground, five lines across and down, ten texts, a bar, the copy.
+// The picture's GDI calls alone: memory, white ground, eight lines, ten texts, a bar, the copy.
 double BareDrawingTime(HWND control)
 {
     RECT area;

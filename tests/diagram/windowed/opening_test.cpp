@@ -1,6 +1,7 @@
 #include <functional>
 #include <utility>
 
+#include "tests/support/pixels.h"
 #include "weight_dialog_test.h"
 
 namespace
@@ -76,7 +77,31 @@ TEST_F(WeightOpening, GivesTheListItsStylesAndImages)
         ::ImageList_GetIconSize(images->GetSafeHandle(), &width, &height);
         EXPECT_EQ(width, 16);
         EXPECT_EQ(height, 16);
+        IMAGEINFO first{};
+        ASSERT_TRUE(ImageList_GetImageInfo(images->GetSafeHandle(), 0, &first));
+        BITMAP bitmap{};
+        ASSERT_NE(::GetObjectW(first.hbmImage, sizeof bitmap, &bitmap), 0);
+        EXPECT_EQ(bitmap.bmBitsPixel, 16);
+        EXPECT_NE(first.hbmMask, nullptr);
         EXPECT_TRUE(List().RowMode());
+    }});
+}
+
+// Drawn on two grounds: where they differ, the image is transparent.
+TEST_F(WeightOpening, MakesMagentaTransparent)
+{
+    Run({[this] {
+        const HIMAGELIST images = List().GetImageList(LVSIL_SMALL)->GetSafeHandle();
+        const auto on = [images](COLORREF ground) {
+            return PaintedPixels(16, 16, [&](CDC& dc) {
+                dc.FillSolidRect(CRect(0, 0, 16, 16), ground);
+                ImageList_Draw(images, 2, dc.GetSafeHdc(), 0, 0, ILD_TRANSPARENT);
+            });
+        };
+        const int transparent = DifferentPixels(on(RGB(0, 0, 0)), on(RGB(255, 255, 255)));
+        EXPECT_GT(transparent, 0);
+        EXPECT_LT(transparent, 16 * 16);
+        EXPECT_EQ(on(RGB(0, 0, 0)).Count(0xFF00FF), 0);
     }});
 }
 
