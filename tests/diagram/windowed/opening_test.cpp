@@ -1,6 +1,7 @@
 #include <functional>
 #include <utility>
 
+#include "platform/moduleskin/resource.h"
 #include "tests/support/pixels.h"
 #include "weight_dialog_test.h"
 
@@ -39,11 +40,11 @@ TEST_F(WeightOpening, ListsFiveColumns)
         int format;
         int width;
     };
-    const std::vector<Expected> expected{{1083, LVCFMT_LEFT, 130},
-                                         {52695, LVCFMT_CENTER, 60},
-                                         {52696, LVCFMT_CENTER, 60},
-                                         {52697, LVCFMT_CENTER, 60},
-                                         {52698, LVCFMT_CENTER, 60}};
+    const std::vector<Expected> expected{{IDS_COLUMN_LINK, LVCFMT_LEFT, 130},
+                                         {IDS_COLUMN_NOMINAL, LVCFMT_CENTER, 60},
+                                         {IDS_COLUMN_FIELD, LVCFMT_CENTER, 60},
+                                         {IDS_COLUMN_WEIGHT_FIXED, LVCFMT_CENTER, 60},
+                                         {IDS_COLUMN_WEIGHT, LVCFMT_CENTER, 60}};
     Run({[&] {
         ASSERT_EQ(List().ColumnCount(), 5);
         for (int index = 0; index < 5; ++index)
@@ -120,9 +121,10 @@ TEST_F(WeightOpening, HangsTheLinksBelowTheExpandedChainRow)
 TEST_F(WeightOpening, CopiesTheColumnsOfEachLink)
 {
     Run({[this] {
-        const std::vector<std::vector<CString>> expected{{L"A1", L"N1", L"F1", ResourceText(52713), L"4"},
-                                                         {L"A2", L"N2", L"F2", ResourceText(52712), L"7"},
-                                                         {L"A3", L"N3", L"F3", ResourceText(52713), L"10"}};
+        const std::vector<std::vector<CString>> expected{
+            {L"A1", L"N1", L"F1", ResourceText(IDS_WEIGHT_FIXED_NO), L"4"},
+            {L"A2", L"N2", L"F2", ResourceText(IDS_WEIGHT_FIXED_YES), L"7"},
+            {L"A3", L"N3", L"F3", ResourceText(IDS_WEIGHT_FIXED_NO), L"10"}};
         for (int link = 1; link <= 3; ++link)
         {
             SCOPED_TRACE(link);
@@ -233,7 +235,7 @@ TEST_F(WeightOpening, DoesNotSelectALinkWithoutAHostObject)
 TEST_F(WeightOpening, ScrollsToTheSelectedLinkOfALongChain)
 {
     while (chain.links.size() < 200)
-        chain.Add(1, ResourceText(52713), 1);
+        chain.Add(1, ResourceText(IDS_WEIGHT_FIXED_NO), 1);
     Preselect(200);
     Run({[] {},
          [this] {

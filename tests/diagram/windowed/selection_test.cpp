@@ -1,3 +1,4 @@
+#include "platform/moduleskin/resource.h"
 #include "weight_dialog_test.h"
 
 namespace
@@ -93,7 +94,8 @@ TEST_F(WeightSelection, ShowsAnEmptyFrameForAnUnknownImage)
 TEST_F(WeightSelection, LeavesTheSliderAloneForAnotherTextOfTheState)
 {
     for (const CString& text :
-         {CString(L""), CString(L"perhaps"), CString(ResourceText(52712)).MakeUpper(), ResourceText(52712) + L" "})
+         {CString(L""), CString(L"perhaps"), CString(ResourceText(IDS_WEIGHT_FIXED_YES)).MakeUpper(),
+          ResourceText(IDS_WEIGHT_FIXED_YES) + L" "})
     {
         SCOPED_TRACE(testing::PrintToString(text));
         chain.links[2].weightFixed = text;

@@ -50,9 +50,9 @@ class WeightDialogTest : public ModalDialogTest<CWeightDlg>
 protected:
     WeightDialogTest()
     {
-        chain.Add(1, ResourceText(52713), 4);
-        chain.Add(2, ResourceText(52712), 7);
-        chain.Add(3, ResourceText(52713), 10);
+        chain.Add(1, ResourceText(IDS_WEIGHT_FIXED_NO), 4);
+        chain.Add(2, ResourceText(IDS_WEIGHT_FIXED_YES), 7);
+        chain.Add(3, ResourceText(IDS_WEIGHT_FIXED_NO), 10);
         MakeDialog();
     }
 

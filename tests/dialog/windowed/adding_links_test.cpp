@@ -1,5 +1,6 @@
 // The command that adds links, and the rows and records that the host's answer makes.
 
+#include "platform/moduleskin/resource.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
 
 namespace
@@ -148,7 +149,8 @@ TEST_F(AddingLinks, FillTheRowFromTheDialogsRecord)
     Confirm(Dimension(L"A1", L"25", L"0.2", L"-0.1"), &objects[0]);
     const ListView links = Links();
     ASSERT_EQ(links.Rows(), 2);
-    EXPECT_EQ(links.Texts(1), (std::vector<CString>{L"A1", L"25", L"", L"0.2", L"-0.1", ResourceText(52713)}));
+    EXPECT_EQ(links.Texts(1),
+              (std::vector<CString>{L"A1", L"25", L"", L"0.2", L"-0.1", ResourceText(IDS_WEIGHT_FIXED_NO)}));
     EXPECT_EQ(links.Row(1).Level(), 1);
 }
 
@@ -227,7 +229,7 @@ TEST_F(AddingLinks, TakeADimensionOfKind2WithoutToleranceAndIncreasing)
     CDimParams params = Dimension(L"K2", L"30", L"0.5", L"-0.5", 0, 2);
     params.tolField = L"H7";
     AddLink(params, nullptr);
-    EXPECT_EQ(Links().Texts(1), (std::vector<CString>{L"K2", L"30", L"", L"", L"", ResourceText(52713)}));
+    EXPECT_EQ(Links().Texts(1), (std::vector<CString>{L"K2", L"30", L"", L"", L"", ResourceText(IDS_WEIGHT_FIXED_NO)}));
     EXPECT_EQ(Links().Record(1)->increasing, 1);
     EXPECT_EQ(Links().Record(1)->mean, 30.0);
 }
@@ -242,9 +244,9 @@ TEST_F(AddingLinks, SayInColumn5WhetherTheWeightIsFixed)
         links.emplace_back(params, nullptr);
     }
     AddLinks(links);
-    EXPECT_EQ(Links().Text(1, 5), ResourceText(52713));
+    EXPECT_EQ(Links().Text(1, 5), ResourceText(IDS_WEIGHT_FIXED_NO));
     for (int row = 2; row <= 4; ++row)
-        EXPECT_EQ(Links().Text(row, 5), ResourceText(52712)) << "row " << row;
+        EXPECT_EQ(Links().Text(row, 5), ResourceText(IDS_WEIGHT_FIXED_YES)) << "row " << row;
     EXPECT_EQ(Links().Row(1).Item(5).kind, 2) << "a drop-down list";
 }
 

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "platform/moduleskin/module_skin.h"
+#include "platform/moduleskin/resource.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
 #include "tests/support/pixels.h"
 #include "tests/support/resource_count.h"
@@ -61,14 +62,19 @@ void ExpectColumns(const ListView& list, std::vector<UINT> headings, std::vector
 TEST_F(Creation, GivesTheChainListItsColumns)
 {
     Open();
-    ExpectColumns(Links(), {1083, 52695, 52696, 52707, 52708, 52697}, {130, 60, 60, 60, 60, 50});
+    ExpectColumns(Links(),
+                  {IDS_COLUMN_LINK, IDS_COLUMN_NOMINAL, IDS_COLUMN_FIELD, IDS_COLUMN_UPPER_DEV, IDS_COLUMN_LOWER_DEV,
+                   IDS_COLUMN_WEIGHT_FIXED},
+                  {130, 60, 60, 60, 60, 50});
     EXPECT_EQ(Links().Grid().TreeColumn(), 0);
 }
 
 TEST_F(Creation, GivesTheClosingListTheFirstFiveWithoutATree)
 {
     Open();
-    ExpectColumns(Closing(), {1083, 52695, 52696, 52707, 52708}, {130, 60, 60, 60, 60});
+    ExpectColumns(Closing(),
+                  {IDS_COLUMN_LINK, IDS_COLUMN_NOMINAL, IDS_COLUMN_FIELD, IDS_COLUMN_UPPER_DEV, IDS_COLUMN_LOWER_DEV},
+                  {130, 60, 60, 60, 60});
     EXPECT_EQ(Closing().Grid().TreeColumn(), -1);
 }
 

@@ -5,6 +5,7 @@
 #include "calc/chain_calculation.h"
 #include "diagram/chain_diagram_layout.h"
 #include "drawing/gdi_painter.h"
+#include "platform/moduleskin/resource.h"
 #include "platform/text/text_encoding.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
 #include "tests/support/pixels.h"
@@ -225,10 +226,11 @@ protected:
         input.closing = {.nominal = requiredNominal, .upperDev = 0.15, .lowerDev = -0.15, .law = 1};
         input.nominalText = nominalText;
         input.result = Calculate(method, links, input.closing);
-        input.caption = LibraryText(52706);
-        input.upperWord = LibraryText(52701);
-        input.lowerWord = LibraryText(52702);
-        input.mismatchLines = {LibraryText(52709), LibraryText(52710), LibraryText(52711)};
+        input.caption = LibraryText(IDS_DIAGRAM_CAPTION);
+        input.upperWord = LibraryText(IDS_UPPER_LIMIT);
+        input.lowerWord = LibraryText(IDS_LOWER_LIMIT);
+        input.mismatchLines = {LibraryText(IDS_MISMATCH_LINE_1), LibraryText(IDS_MISMATCH_LINE_2),
+                               LibraryText(IDS_MISMATCH_LINE_3)};
         return PaintedLike(Area(), [&](CDC& dc) {
             PaintDisplayList(dc, LayoutChainDiagram(input), CSize(input.width, input.height));
         });

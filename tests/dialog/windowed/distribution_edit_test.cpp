@@ -1,5 +1,6 @@
 // Editing the distribution of a link and of the closing link.
 
+#include "platform/moduleskin/resource.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
 
 namespace
@@ -50,7 +51,7 @@ TEST_F(EditingADistribution, OfALinkIsFilledBeforeTheHostHearsAndOpensAfterwards
     EXPECT_EQ(Codes(), (std::vector<WPARAM>{32, 3}));
     EXPECT_EQ(params.nominal, L"4");
     EXPECT_EQ(params.name, L"A2");
-    EXPECT_EQ(params.caption, ResourceText(52705));
+    EXPECT_EQ(params.caption, ResourceText(IDS_NOMINAL_CAPTION));
     EXPECT_EQ(params.upperDev, L"0.05");
     EXPECT_EQ(params.lowerDev, L"0");
     EXPECT_EQ(params.dimKind, 3);
@@ -71,7 +72,7 @@ TEST_F(EditingADistribution, OfTheClosingLinkIsFilledBeforeTheHostHearsAndOpensA
     EXPECT_EQ(Codes(), (std::vector<WPARAM>{246, 3}));
     EXPECT_EQ(params.nominal, L"6");
     EXPECT_EQ(params.name, L"X");
-    EXPECT_EQ(params.caption, ResourceText(52705));
+    EXPECT_EQ(params.caption, ResourceText(IDS_NOMINAL_CAPTION));
     EXPECT_EQ(params.upperDev, L"0.15");
     EXPECT_EQ(params.lowerDev, L"-0.1");
     EXPECT_EQ(params.dimKind, 3);

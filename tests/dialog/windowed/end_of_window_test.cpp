@@ -1,5 +1,6 @@
 // Late and early calls of the host, the destroyed window, the deleted dialog.
 
+#include "platform/moduleskin/resource.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
 
 namespace
@@ -220,7 +221,7 @@ TEST_F(LateCalls, AddAnEmptyRow)
     EXPECT_EQ(Model()[0].name, L"");
     EXPECT_EQ(Model()[0].nominal, L"");
     EXPECT_EQ(Model()[0].image, -1);
-    EXPECT_EQ(Model()[0].weightFixed, ResourceText(52713));
+    EXPECT_EQ(Model()[0].weightFixed, ResourceText(IDS_WEIGHT_FIXED_NO));
     EXPECT_EQ(Model()[0].record->mean, 0.0);
 }
 

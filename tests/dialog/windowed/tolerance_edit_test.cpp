@@ -1,5 +1,6 @@
 // Editing the tolerance of a link and of the closing link: what the child dialog gets, and what the host writes back.
 
+#include "platform/moduleskin/resource.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
 
 namespace
@@ -88,7 +89,8 @@ protected:
 
     void ExpectLinkUntouched() const
     {
-        EXPECT_EQ(Links().Texts(2), (std::vector<CString>{L"A2", L"4", L"zz", L"0.05", L"0", ResourceText(52712)}));
+        EXPECT_EQ(Links().Texts(2),
+                  (std::vector<CString>{L"A2", L"4", L"zz", L"0.05", L"0", ResourceText(IDS_WEIGHT_FIXED_YES)}));
         EXPECT_EQ(Links().Record(2)->mean, 4.025);
         EXPECT_EQ(Links().Record(2)->increasing, 0);
     }
@@ -106,7 +108,7 @@ TEST_F(EditingALink, FillsTheRecordFromTheRow)
     EXPECT_EQ(params.tolField, L"zz");
     EXPECT_EQ(params.upperDev, L"0.05");
     EXPECT_EQ(params.lowerDev, L"0");
-    EXPECT_EQ(params.caption, ResourceText(52705));
+    EXPECT_EQ(params.caption, ResourceText(IDS_NOMINAL_CAPTION));
     EXPECT_EQ(params.weightFixed, 1);
     EXPECT_EQ(params.increasing, 0);
     EXPECT_EQ(params.dimKind, 3);
@@ -135,7 +137,7 @@ TEST_F(EditingALink, ShowsTheRow)
             }});
     EXPECT_EQ(name, L"A2");
     EXPECT_EQ(nominal, L"4");
-    EXPECT_EQ(caption, ResourceText(52705));
+    EXPECT_EQ(caption, ResourceText(IDS_NOMINAL_CAPTION));
     EXPECT_EQ(field, L"zz");
     EXPECT_EQ(upper, L"0.05");
     EXPECT_EQ(lower, L"0");
@@ -218,7 +220,8 @@ TEST_F(EditingALink, IsWrittenBackByTheHost)
                 ClickChild(IDC_LINK_OK);
             }});
     EXPECT_EQ(Codes(), (std::vector<WPARAM>{30, 1}));
-    EXPECT_EQ(Links().Texts(2), (std::vector<CString>{L"B2", L"4", L"zz", L"0.5", L"-0.5", ResourceText(52713)}));
+    EXPECT_EQ(Links().Texts(2),
+              (std::vector<CString>{L"B2", L"4", L"zz", L"0.5", L"-0.5", ResourceText(IDS_WEIGHT_FIXED_NO)}));
     EXPECT_EQ(Links().Record(2)->mean, 4.0);
     EXPECT_EQ(Links().Record(2)->increasing, 1);
     EXPECT_EQ(Links().Record(2)->hostObject, &objects[1]);
@@ -268,10 +271,10 @@ TEST_F(EditingALink, TakesEveryValueButZeroForAFixedWeight)
     CDimParams params = Dimension(L"A2", L"4", L"1", L"0");
     params.weightFixed = -7;
     dialog->SetCurrentFRowData(params);
-    EXPECT_EQ(Links().Text(2, 5), ResourceText(52712));
+    EXPECT_EQ(Links().Text(2, 5), ResourceText(IDS_WEIGHT_FIXED_YES));
     params.weightFixed = 0;
     dialog->SetCurrentFRowData(params);
-    EXPECT_EQ(Links().Text(2, 5), ResourceText(52713));
+    EXPECT_EQ(Links().Text(2, 5), ResourceText(IDS_WEIGHT_FIXED_NO));
 }
 
 TEST_F(EditingALink, DoesNotRepaintInTheWriteBack)
@@ -332,7 +335,7 @@ TEST_F(EditingTheClosingLink, FillsTheRecordFromTheRow)
     EXPECT_EQ(params.tolField, L"zz");
     EXPECT_EQ(params.upperDev, L"0.15");
     EXPECT_EQ(params.lowerDev, L"-0.15");
-    EXPECT_EQ(params.caption, ResourceText(52705));
+    EXPECT_EQ(params.caption, ResourceText(IDS_NOMINAL_CAPTION));
     EXPECT_EQ(params.weightFixed, 0);
     EXPECT_EQ(params.increasing, 0);
     EXPECT_EQ(params.dimKind, 3);
@@ -354,7 +357,7 @@ TEST_F(EditingTheClosingLink, ShowsTheRow)
                 ClickChild(IDC_CLOSING_CANCEL);
             }});
     EXPECT_EQ(nominal, L"6");
-    EXPECT_EQ(caption, ResourceText(52705));
+    EXPECT_EQ(caption, ResourceText(IDS_NOMINAL_CAPTION));
     EXPECT_EQ(field, L"zz");
     EXPECT_EQ(upper, L"0.15");
     EXPECT_EQ(lower, L"-0.15");

@@ -1,5 +1,6 @@
 // Column 5: the choice between the two texts in the list.
 
+#include "platform/moduleskin/resource.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
 
 namespace
@@ -58,15 +59,16 @@ protected:
 TEST_F(WeightFixedChoice, OffersBothTextsTheFixedOneFirst)
 {
     const Answer answer = Ask(L"anything");
-    EXPECT_EQ(answer.texts, (std::vector<CString>{ResourceText(52712), ResourceText(52713)}));
+    EXPECT_EQ(answer.texts,
+              (std::vector<CString>{ResourceText(IDS_WEIGHT_FIXED_YES), ResourceText(IDS_WEIGHT_FIXED_NO)}));
     EXPECT_EQ(answer.values, (std::vector<std::int32_t>{0, 0}));
 }
 
 TEST_F(WeightFixedChoice, SelectsTheCellsText)
 {
-    EXPECT_EQ(Ask(ResourceText(52712)).selected, 0);
-    EXPECT_EQ(Ask(ResourceText(52713)).selected, 1);
-    EXPECT_EQ(Ask(ResourceText(52713), 0).selected, 1) << "whatever the grid had set";
+    EXPECT_EQ(Ask(ResourceText(IDS_WEIGHT_FIXED_YES)).selected, 0);
+    EXPECT_EQ(Ask(ResourceText(IDS_WEIGHT_FIXED_NO)).selected, 1);
+    EXPECT_EQ(Ask(ResourceText(IDS_WEIGHT_FIXED_NO), 0).selected, 1) << "whatever the grid had set";
 }
 
 TEST_F(WeightFixedChoice, LeavesTheSelectionToTheGridWhenNoTextIsTheCells)
@@ -78,11 +80,11 @@ TEST_F(WeightFixedChoice, LeavesTheSelectionToTheGridWhenNoTextIsTheCells)
 
 TEST_F(WeightFixedChoice, ComparesExactly)
 {
-    CString upperCase = ResourceText(52712);
+    CString upperCase = ResourceText(IDS_WEIGHT_FIXED_YES);
     upperCase.MakeUpper();
-    ASSERT_NE(upperCase, ResourceText(52712));
+    ASSERT_NE(upperCase, ResourceText(IDS_WEIGHT_FIXED_YES));
     EXPECT_EQ(Ask(upperCase).selected, -1);
-    EXPECT_EQ(Ask(ResourceText(52712) + L" ").selected, -1);
+    EXPECT_EQ(Ask(ResourceText(IDS_WEIGHT_FIXED_YES) + L" ").selected, -1);
 }
 
 TEST_F(WeightFixedChoice, OpensByAClickWithTheCellsTextSelected)
@@ -103,7 +105,7 @@ TEST_F(WeightFixedChoice, ChangesTheTextAlone)
     ClickCell(Links(), 1, 5);
     ASSERT_NE(OpenList(), nullptr);
     Choose(VK_UP);
-    EXPECT_EQ(Links().Text(1, 5), ResourceText(52712));
+    EXPECT_EQ(Links().Text(1, 5), ResourceText(IDS_WEIGHT_FIXED_YES));
     const CDimLink& after = *Links().Record(1);
     EXPECT_EQ(after.increasing, before.increasing);
     EXPECT_EQ(after.weight, before.weight);
@@ -122,7 +124,7 @@ TEST_F(WeightFixedChoice, LeavesEscToTheOpenList)
     PumpUntilIdle();
     EXPECT_TRUE(Codes().empty()) << "the dialog was not cancelled";
     EXPECT_EQ(Objects().size(), 2U);
-    EXPECT_EQ(Links().Text(1, 5), ResourceText(52713));
+    EXPECT_EQ(Links().Text(1, 5), ResourceText(IDS_WEIGHT_FIXED_NO));
 }
 
 TEST_F(WeightFixedChoice, IsNotOfferedOnTheChainRow)
@@ -138,7 +140,7 @@ TEST_F(WeightFixedChoice, DecidesWhatTheToleranceDialogShows)
     ClickCell(Links(), 2, 5);
     ASSERT_NE(OpenList(), nullptr);
     Choose(VK_DOWN);
-    ASSERT_EQ(Links().Text(2, 5), ResourceText(52713));
+    ASSERT_EQ(Links().Text(2, 5), ResourceText(IDS_WEIGHT_FIXED_NO));
     bool isChecked = true;
     CDimParams params;
     params.weightFixed = 1;
@@ -154,7 +156,7 @@ TEST_F(WeightFixedChoice, DecidesWhatTheToleranceDialogShows)
 // A host's library may show anything in the cell: only the very text stands for a fixed weight.
 TEST_F(WeightFixedChoice, StandsForAFixedWeightByTheExactTextAlone)
 {
-    const CString fixed = ResourceText(52712);
+    const CString fixed = ResourceText(IDS_WEIGHT_FIXED_YES);
     CString upperCase = fixed;
     upperCase.MakeUpper();
     ASSERT_NE(upperCase, fixed);

@@ -1,5 +1,6 @@
 // The two commands that open the weight dialog.
 
+#include "platform/moduleskin/resource.h"
 #include "tests/dialog/windowed/calc_dialog_test.h"
 
 namespace
@@ -86,8 +87,8 @@ TEST_F(EditingWeights, ListsTheChain)
                 ClickChild(IDCANCEL);
             }});
     EXPECT_EQ(chain[0], L"Shaft");
-    EXPECT_EQ(first, (std::vector<CString>{L"A", L"1", L"", ResourceText(52713), L"1"}));
-    EXPECT_EQ(last, (std::vector<CString>{L"C", L"3", L"", ResourceText(52712), L"1"}));
+    EXPECT_EQ(first, (std::vector<CString>{L"A", L"1", L"", ResourceText(IDS_WEIGHT_FIXED_NO), L"1"}));
+    EXPECT_EQ(last, (std::vector<CString>{L"C", L"3", L"", ResourceText(IDS_WEIGHT_FIXED_YES), L"1"}));
     EXPECT_EQ(images, (std::vector<int>{2, 9, 10, 11}));
 }
 

@@ -1,3 +1,4 @@
+#include "platform/moduleskin/resource.h"
 #include "variable_dialog_test.h"
 
 namespace
@@ -116,7 +117,7 @@ TEST_F(VariableAccepting, AsksForAMissingMeanAndStaysOpen)
         const ExpectMessageBox box;
         Write(IDC_VARIABLE_MEAN, L"");
         Click(IDC_VARIABLE_OK);
-        EXPECT_EQ(box.Text(), static_cast<const wchar_t*>(ResourceText(52699)));
+        EXPECT_EQ(box.Text(), static_cast<const wchar_t*>(ResourceText(IDS_MEAN_MISSING)));
         EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
         EXPECT_EQ(Record(), UniformLink());
     }});
@@ -131,7 +132,7 @@ TEST_F(VariableAccepting, RefusesAMeanOutsideTheFieldAndStaysOpen)
         Type();
         Write(IDC_VARIABLE_MEAN, L"25.200000001");
         Click(IDC_VARIABLE_OK);
-        EXPECT_EQ(box.Text(), static_cast<const wchar_t*>(ResourceText(52700)));
+        EXPECT_EQ(box.Text(), static_cast<const wchar_t*>(ResourceText(IDS_MEAN_OUTSIDE_FIELD)));
         EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
         EXPECT_EQ(Record().mean, 25.05);
         EXPECT_EQ(Text(IDC_VARIABLE_MEAN), L"25.200000001");

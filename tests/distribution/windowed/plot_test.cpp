@@ -2,6 +2,7 @@
 
 #include "distribution/density_plot_layout.h"
 #include "drawing/gdi_painter.h"
+#include "platform/moduleskin/resource.h"
 #include "platform/text/text_encoding.h"
 #include "tests/support/resource_count.h"
 
@@ -18,8 +19,8 @@ Pixels VariableDialogTest::ExpectedPlot()
     input.lowerDevText = ToUtf8(Record().lowerDev);
     input.law = Record().law;
     input.mean = Record().mean;
-    input.upperWord = ToUtf8(ResourceText(52701));
-    input.lowerWord = ToUtf8(ResourceText(52702));
+    input.upperWord = ToUtf8(ResourceText(IDS_UPPER_LIMIT));
+    input.lowerWord = ToUtf8(ResourceText(IDS_LOWER_LIMIT));
     return PaintedPixels(input.width, input.height, [&](CDC& dc) {
         ::SelectObject(dc.GetSafeHdc(), ::GetStockObject(SYSTEM_FONT));
         PaintDisplayList(dc, LayoutDensityPlot(input), CSize(input.width, input.height));

@@ -1,3 +1,4 @@
+#include "platform/moduleskin/resource.h"
 #include "variable_dialog_test.h"
 
 namespace
@@ -40,7 +41,7 @@ TEST_F(VariableRedraw, AsksForAMissingMean)
         const ExpectMessageBox box;
         Write(IDC_VARIABLE_MEAN, L"");
         Click(IDC_VARIABLE_REDRAW);
-        EXPECT_EQ(box.Text(), static_cast<const wchar_t*>(ResourceText(52699)));
+        EXPECT_EQ(box.Text(), static_cast<const wchar_t*>(ResourceText(IDS_MEAN_MISSING)));
         EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
         EXPECT_EQ(Record(), UniformLink());
     }});
@@ -58,7 +59,7 @@ TEST_P(VariableRefusedMean, IsReportedAndStaysTyped)
              const ExpectMessageBox box;
              Write(IDC_VARIABLE_MEAN, GetParam());
              Click(IDC_VARIABLE_REDRAW);
-             EXPECT_EQ(box.Text(), static_cast<const wchar_t*>(ResourceText(52700)));
+             EXPECT_EQ(box.Text(), static_cast<const wchar_t*>(ResourceText(IDS_MEAN_OUTSIDE_FIELD)));
              EXPECT_EQ(box.Buttons(), std::vector<int>{IDOK});
              EXPECT_EQ(Record(), UniformLink());
              EXPECT_EQ(Text(IDC_VARIABLE_MEAN), GetParam());

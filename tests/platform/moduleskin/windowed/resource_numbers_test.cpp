@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
+#include <utility>
 
 #include <afxwin.h>
 
@@ -55,6 +56,29 @@ const NumberedResource kNumberedResources[] = {
 };
 
 INSTANTIATE_TEST_SUITE_P(Of, ResourceNumber, testing::ValuesIn(kNumberedResources), testing::PrintToStringParamName());
+
+const std::pair<int, int> kStringNumbers[] = {
+    {1083, IDS_COLUMN_LINK},          {51691, IDS_UPPER_DEV_MALFORMED},
+    {51692, IDS_LOWER_DEV_MALFORMED}, {51693, IDS_DEVIATIONS_INCONSISTENT},
+    {52695, IDS_COLUMN_NOMINAL},      {52696, IDS_COLUMN_FIELD},
+    {52697, IDS_COLUMN_WEIGHT_FIXED}, {52698, IDS_COLUMN_WEIGHT},
+    {52699, IDS_MEAN_MISSING},        {52700, IDS_MEAN_OUTSIDE_FIELD},
+    {52701, IDS_UPPER_LIMIT},         {52702, IDS_LOWER_LIMIT},
+    {52703, IDS_NAME_MISSING},        {52704, IDS_DEVIATIONS_MISSING},
+    {52705, IDS_NOMINAL_CAPTION},     {52706, IDS_DIAGRAM_CAPTION},
+    {52707, IDS_COLUMN_UPPER_DEV},    {52708, IDS_COLUMN_LOWER_DEV},
+    {52709, IDS_MISMATCH_LINE_1},     {52710, IDS_MISMATCH_LINE_2},
+    {52711, IDS_MISMATCH_LINE_3},     {52712, IDS_WEIGHT_FIXED_YES},
+    {52713, IDS_WEIGHT_FIXED_NO},     {52718, IDS_INCREASING},
+    {52719, IDS_DECREASING},          {52720, IDS_LAW_UNIFORM},
+    {52721, IDS_LAW_NORMAL},          {52722, IDS_LAW_TRIANGULAR},
+};
+
+TEST(StringNumbers, AreThoseOfTheContract)
+{
+    for (const auto& [number, identifier] : kStringNumbers)
+        EXPECT_EQ(identifier, number);
+}
 
 static_assert(kModuleCalcTol == 1, "what the guard of the resources is given");
 
