@@ -53,14 +53,15 @@ void CallInside(const StepContext& context)
     PlayState& play = context.play;
     const Step& step = context.step;
     play.notifications.CallInsideNext(static_cast<UINT>(*step.number), [&play, &step] {
-        // What goes wrong must not pass through the module's own code: it is told at the end of the play's next step.
+        // What goes wrong must not pass through the module's own code: it is told before the play goes on.
         try
         {
             MakeCall(play, step);
         }
         catch (const std::exception& error)
         {
-            play.failedCall = step.source + ": " + error.what();
+            if (!play.failedCall)
+                play.failedCall = FailedCall{&step, error.what()};
         }
     });
 }

@@ -111,6 +111,11 @@ private:
             m_isInside = false;
             EndStep();
         }
+        if (m_play.failedCall)
+        {
+            FailAtCall();
+            return false;
+        }
         if (m_next == m_script.steps.size())
         {
             End(kHeld);
@@ -186,12 +191,9 @@ private:
             return false;
         }
         const bool wasOvertaken = m_ended || m_next != at;
-        if (!wasOvertaken)
-            m_isInside = false;
-        if (m_play.failedCall)
-            Fail(m_script.steps[at], *m_play.failedCall);
-        if (wasOvertaken || m_ended)
+        if (wasOvertaken)
             return false;
+        m_isInside = false;
         if (isDone)
             EndStep();
         else
@@ -213,7 +215,16 @@ private:
         return std::string(file.begin(), file.end()) + ":" + std::to_string(step.line) + ": " + step.source;
     }
 
-    void Fail(const Step& step, const std::string& reason) { Fail(Place(step) + "\n     " + reason); }
+    void FailAtCall() { Fail(Place(*m_play.failedCall->step) + "\n     " + m_play.failedCall->reason); }
+
+    void Fail(const Step& step, const std::string& reason)
+    {
+        // A call inside a notification that could not be made came before what went wrong after it.
+        if (m_play.failedCall)
+            FailAtCall();
+        else
+            Fail(Place(step) + "\n     " + reason);
+    }
 
     void Fail(const std::string& message)
     {

@@ -14,15 +14,22 @@
 class NotificationLog;
 struct ResourceCount;
 
+/// A call inside a notification that could not be made.
+struct FailedCall
+{
+    const Step* step;  ///< the `on` that asked for it
+    std::string reason;
+};
+
 /// What lasts from step to step.
 struct PlayState
 {
     PlayedHost& host;
     NotificationLog& notifications;
     const Script& script;
-    ResourceCount& marked;                  ///< what the last `mark` counted
-    std::optional<std::string> failedCall;  ///< why a call inside a notification could not be made
-    int contextMenuGrid = 0;                ///< ID of the control that the right button was last pressed on
+    ResourceCount& marked;                 ///< what the last `mark` counted
+    std::optional<FailedCall> failedCall;  ///< the first one
+    int contextMenuGrid = 0;               ///< ID of the control that the right button was last pressed on
 };
 
 /// What a step's function gets. `window` is the window that the step names, found and alive; null when it names none.

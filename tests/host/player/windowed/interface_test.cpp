@@ -26,6 +26,8 @@ public:
     BOOL Create(CWnd* parent) override
     {
         calls.push_back(parent == nullptr ? "create without parent" : "create");
+        if (host != nullptr)
+            host->observer->OnNotified(1);
         return createResult;
     }
     void SetFileName(CString name) override { calls.push_back("name " + Narrow(name)); }
@@ -70,6 +72,7 @@ public:
     CDimParams closing;
     CVariableParams distribution;
     BOOL createResult = TRUE;
+    TestHost* host = nullptr;  // told 1 inside Create
 
 private:
     static std::string RowText(const CDimParams& params)
@@ -172,10 +175,20 @@ TEST_F(PlayedInterface, CallsOnACodeAreMadeInsideItOnceAndInTheirOrder)
     EXPECT_EQ(dialog.calls, (std::vector<std::string>{"row A1 0.5 1"}));
 }
 
-TEST_F(PlayedInterface, ACallOnACodeThatCanNotBeMadeFailsThePlay)
+TEST_F(PlayedInterface, ACallOnACodeThatCanNotBeMadeFailsThePlayAtItsOwnLine)
 {
-    ExpectFails(host, "on 1 AddToList B1\ncommand 1\nexpect-notified 1\nprint\n", 3,
-                "on 1 AddToList B1: the drawing has no dimension B1");
+    const std::string reason = "on 1 AddToList B1\n     the drawing has no dimension B1";
+    ExpectFails(host, "on 1 AddToList B1\ncommand 1\nexpect-notified 1\nprint\n", 1, reason);
+    // Also where the play is over with the step that brings the notification.
+    ExpectFails(host, "on 1 AddToList B1\ncommand 1\n", 1, reason);
+}
+
+TEST_F(PlayedInterface, OfSeveralThingsThatGoWrongTheFirstIsTold)
+{
+    ExpectFails(host, "on 1 AddToList B1\non 1 AddToList B2\ncommand 1\n", 1, "no dimension B1");
+    dialog.host = &host;
+    dialog.createResult = FALSE;
+    ExpectFails(host, "on 1 AddToList B1\ncall Create\n", 1, "no dimension B1");
 }
 
 TEST_F(PlayedInterface, RecordsAreKeptAsTheyWereInsideTheCode)
