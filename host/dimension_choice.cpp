@@ -6,18 +6,18 @@
 namespace
 {
 
-double Distance(PixelPoint point, const PixelLine& line)
+double Distance(SheetPoint point, const SheetLine& line)
 {
-    const PixelVector span = line.to - line.from;
+    const SheetVector span = line.to - line.from;
     const double squaredLength = Dot(span, span);
     const double along = squaredLength > 0.0 ? std::clamp(Dot(point - line.from, span) / squaredLength, 0.0, 1.0) : 0.0;
-    const PixelVector miss = point - (line.from + span * along);
+    const SheetVector miss = point - (line.from + span * along);
     return std::hypot(miss.x, miss.y);
 }
 
 }  // namespace
 
-std::optional<std::size_t> DimensionAt(const SheetLayout& layout, PixelPoint point, double tolerance)
+std::optional<std::size_t> DimensionAt(const SheetLayout& layout, SheetPoint point, double tolerance)
 {
     for (std::size_t i = 0; i < layout.dimensions.size(); ++i)
     {
@@ -28,7 +28,7 @@ std::optional<std::size_t> DimensionAt(const SheetLayout& layout, PixelPoint poi
     double smallest = tolerance;
     for (std::size_t i = 0; i < layout.dimensions.size(); ++i)
     {
-        for (const PixelLine& line : layout.dimensions[i].dimensionLines)
+        for (const SheetLine& line : layout.dimensions[i].dimensionLines)
         {
             const double distance = Distance(point, line);
             if (distance > smallest || (nearest && distance == smallest))

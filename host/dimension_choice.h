@@ -7,7 +7,7 @@
 
 /// The dimension whose text or dimension line is at a point; of several the nearest, a text before a line.
 /// @param tolerance  pixels by which a line may be missed
-std::optional<std::size_t> DimensionAt(const SheetLayout& layout, PixelPoint point, double tolerance);
+std::optional<std::size_t> DimensionAt(const SheetLayout& layout, SheetPoint point, double tolerance);
 
 /// The dimension that follows in the drawing's order, the first after the last; the first when none is chosen. Nothing
 /// when there is none.

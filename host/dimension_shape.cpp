@@ -23,17 +23,17 @@ constexpr double kShortest = 1e-6;      // pixels; anything shorter has no direc
 constexpr double kUpright = 1e-9;       // a direction whose x is smaller is upright
 
 // The direction in which a text along the line reads from below or, upright, from the right.
-PixelVector ReadingDirection(PixelVector along)
+SheetVector ReadingDirection(SheetVector along)
 {
     const bool isUpright = std::abs(along.x) < kUpright;
     const bool reads = isUpright ? along.y < 0.0 : along.x > 0.0;
     return reads ? along : -along;
 }
 
-std::array<PixelPoint, 3> Arrow(PixelPoint tip, PixelVector pointing, double unit)
+std::array<SheetPoint, 3> Arrow(SheetPoint tip, SheetVector pointing, double unit)
 {
-    const PixelPoint back = tip + pointing * (-kArrowLength * unit);
-    const PixelVector side = LeftOf(pointing) * (kArrowHalfWidth * unit);
+    const SheetPoint back = tip + pointing * (-kArrowLength * unit);
+    const SheetVector side = LeftOf(pointing) * (kArrowHalfWidth * unit);
     return {tip, back + side, back + -side};
 }
 
@@ -59,7 +59,7 @@ public:
     {
         const auto add = [&](const std::string& text, TextSize size, double right, double down, double width,
                              double height) {
-            const PixelPoint corner = box.corner + box.direction * right + LeftOf(box.direction) * -down;
+            const SheetPoint corner = box.corner + box.direction * right + LeftOf(box.direction) * -down;
             texts.push_back({text, size, {corner, box.direction, width, height}});
         };
         const double labelTop = (box.height - m_labelHeight) / 2;
@@ -92,30 +92,30 @@ private:
 };
 
 // From the measured point towards the dimension line and a little beyond it; nothing where there is no way to go.
-std::optional<PixelLine> ExtensionLine(PixelPoint measured, PixelPoint onLine, double unit)
+std::optional<SheetLine> ExtensionLine(SheetPoint measured, SheetPoint onLine, double unit)
 {
-    const PixelVector way = onLine - measured;
+    const SheetVector way = onLine - measured;
     const double length = std::hypot(way.x, way.y);
     if (length <= kExtensionGap * unit)
         return std::nullopt;
-    const PixelVector direction = way * (1.0 / length);
-    return PixelLine{measured + direction * (kExtensionGap * unit), onLine + direction * (kExtensionBeyond * unit)};
+    const SheetVector direction = way * (1.0 / length);
+    return SheetLine{measured + direction * (kExtensionGap * unit), onLine + direction * (kExtensionBeyond * unit)};
 }
 
 }  // namespace
 
-bool TurnedBox::Contains(PixelPoint point) const
+bool TurnedBox::Contains(SheetPoint point) const
 {
-    const PixelVector inside = point - corner;
+    const SheetVector inside = point - corner;
     const double right = Dot(inside, direction);
     const double down = Dot(inside, -LeftOf(direction));
     return right >= 0.0 && right <= width && down >= 0.0 && down <= height;
 }
 
-std::array<PixelPoint, 4> TurnedBox::Corners() const
+std::array<SheetPoint, 4> TurnedBox::Corners() const
 {
-    const PixelVector right = direction * width;
-    const PixelVector down = LeftOf(direction) * -height;
+    const SheetVector right = direction * width;
+    const SheetVector down = LeftOf(direction) * -height;
     return {corner, corner + right, corner + right + down, corner + down};
 }
 
@@ -124,30 +124,30 @@ DimensionShape LayoutDimension(const DrawingDimension& dimension, const SheetTra
 {
     DimensionShape shape;
     const TextBlock block(TextsOf(dimension), measure, unit);
-    const PixelPoint from = transform.ToPixel(dimension.from);
-    const PixelPoint to = transform.ToPixel(dimension.to);
-    const PixelVector span = to - from;
+    const SheetPoint from = transform.ToPixel(dimension.from);
+    const SheetPoint to = transform.ToPixel(dimension.to);
+    const SheetVector span = to - from;
     const double length = std::hypot(span.x, span.y);
     if (length < kShortest)
     {
-        const PixelVector right = {1.0, 0.0};
+        const SheetVector right = {1.0, 0.0};
         shape.textBox = {from + LeftOf(right) * block.Height(), right, block.Width(), block.Height()};
         block.Place(shape.textBox, shape.texts);
         return shape;
     }
 
-    const PixelVector along = span * (1.0 / length);
-    const PixelVector aside = LeftOf(along) * (transform.scale * dimension.offset);
-    for (const PixelPoint measured : {from, to})
+    const SheetVector along = span * (1.0 / length);
+    const SheetVector aside = LeftOf(along) * (transform.scale * dimension.offset);
+    for (const SheetPoint measured : {from, to})
     {
-        if (const std::optional<PixelLine> line = ExtensionLine(measured, measured + aside, unit))
+        if (const std::optional<SheetLine> line = ExtensionLine(measured, measured + aside, unit))
             shape.extensionLines.push_back(*line);
     }
 
-    const PixelVector reading = ReadingDirection(along);
+    const SheetVector reading = ReadingDirection(along);
     const bool readsForward = Dot(reading, along) > 0.0;
-    const PixelPoint left = (readsForward ? from : to) + aside;
-    const PixelPoint right = (readsForward ? to : from) + aside;
+    const SheetPoint left = (readsForward ? from : to) + aside;
+    const SheetPoint right = (readsForward ? to : from) + aside;
     const bool arrowsInside = length >= (2 * kArrowLength + kBetweenArrows) * unit;
     const double beyond = arrowsInside ? 0.0 : kOuterLine * unit;
     shape.arrows = {Arrow(left, arrowsInside ? -reading : reading, unit),
@@ -155,8 +155,8 @@ DimensionShape LayoutDimension(const DrawingDimension& dimension, const SheetTra
 
     const double textWidth = block.Width();
     const bool textInside = textWidth + 2 * kTextMargin * unit <= length;
-    PixelPoint lineEnd = right + reading * beyond;
-    PixelPoint textLeft = left + reading * ((length - textWidth) / 2);
+    SheetPoint lineEnd = right + reading * beyond;
+    SheetPoint textLeft = left + reading * ((length - textWidth) / 2);
     if (!textInside)
     {
         const double start = std::max(beyond, kTextMargin * unit);

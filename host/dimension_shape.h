@@ -8,23 +8,23 @@
 #include "host/sheet_geometry.h"
 #include "host/text_measure.h"
 
-struct PixelLine
+struct SheetLine
 {
-    PixelPoint from;
-    PixelPoint to;
+    SheetPoint from;
+    SheetPoint to;
 };
 
 /// A rectangle that may be turned: texts run along their dimension line.
 struct TurnedBox
 {
-    PixelPoint corner;      ///< upper left, as the text's reader sees it
-    PixelVector direction;  ///< in which the text runs, length 1
+    SheetPoint corner;      ///< upper left, as the text's reader sees it
+    SheetVector direction;  ///< in which the text runs, length 1
     double width = 0.0;
     double height = 0.0;
 
-    bool Contains(PixelPoint point) const;
+    bool Contains(SheetPoint point) const;
     /// Upper left, upper right, lower right, lower left.
-    std::array<PixelPoint, 4> Corners() const;
+    std::array<SheetPoint, 4> Corners() const;
 };
 
 struct ShapeText
@@ -37,9 +37,9 @@ struct ShapeText
 /// A dimension as it is drawn: lines with arrows, texts above them. Empty lines for a dimension without length.
 struct DimensionShape
 {
-    std::vector<PixelLine> dimensionLines;  ///< what is hit by a click, as is the text
-    std::vector<PixelLine> extensionLines;
-    std::vector<std::array<PixelPoint, 3>> arrows;  ///< filled; the tip first
+    std::vector<SheetLine> dimensionLines;  ///< what is hit by a click, as is the text
+    std::vector<SheetLine> extensionLines;
+    std::vector<std::array<SheetPoint, 3>> arrows;  ///< filled; the tip first
     std::vector<ShapeText> texts;
     TurnedBox textBox;  ///< around all texts
 };
@@ -48,9 +48,9 @@ struct DimensionShape
 struct SheetTransform
 {
     double scale = 1.0;  ///< pixels per millimetre, above 0
-    PixelPoint origin;   ///< of the drawing's point (0, 0)
+    SheetPoint origin;   ///< of the drawing's point (0, 0)
 
-    PixelPoint ToPixel(DrawingPoint point) const { return {origin.x + scale * point.x, origin.y - scale * point.y}; }
+    SheetPoint ToPixel(DrawingPoint point) const { return {origin.x + scale * point.x, origin.y - scale * point.y}; }
 };
 
 /// Lays one dimension out. The text stands above its line and reads from below or from the right; where it has no room

@@ -54,7 +54,7 @@ double SheetFonts::Height(TextSize size) const
     return metrics.tmHeight;
 }
 
-std::unique_ptr<CFont> SheetFonts::Turned(TextSize size, PixelVector direction) const
+std::unique_ptr<CFont> SheetFonts::Turned(TextSize size, SheetVector direction) const
 {
     LOGFONT description = Description(size);
     description.lfEscapement = static_cast<LONG>(std::lround(std::atan2(-direction.y, direction.x) * kTenthsOfDegree));

@@ -18,7 +18,7 @@ public:
     double Height(TextSize size) const override;
 
     /// The font turned so that texts run in that direction.
-    std::unique_ptr<CFont> Turned(TextSize size, PixelVector direction) const;
+    std::unique_ptr<CFont> Turned(TextSize size, SheetVector direction) const;
 
 private:
     LOGFONT Description(TextSize size) const;

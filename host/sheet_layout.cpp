@@ -21,7 +21,7 @@ struct Bounds
     double right = -std::numeric_limits<double>::infinity();
     double bottom = -std::numeric_limits<double>::infinity();
 
-    void Add(PixelPoint point)
+    void Add(SheetPoint point)
     {
         left = std::min(left, point.x);
         top = std::min(top, point.y);
@@ -37,19 +37,19 @@ struct Bounds
 Bounds BoundsOf(const SheetLayout& layout)
 {
     Bounds bounds;
-    for (const std::vector<PixelPoint>& outline : layout.outlines)
-        std::for_each(outline.begin(), outline.end(), [&](PixelPoint point) { bounds.Add(point); });
+    for (const std::vector<SheetPoint>& outline : layout.outlines)
+        std::for_each(outline.begin(), outline.end(), [&](SheetPoint point) { bounds.Add(point); });
     for (const DimensionShape& shape : layout.dimensions)
     {
-        for (const std::vector<PixelLine>* const lines : {&shape.dimensionLines, &shape.extensionLines})
+        for (const std::vector<SheetLine>* const lines : {&shape.dimensionLines, &shape.extensionLines})
         {
-            for (const PixelLine& line : *lines)
+            for (const SheetLine& line : *lines)
             {
                 bounds.Add(line.from);
                 bounds.Add(line.to);
             }
         }
-        for (const PixelPoint corner : shape.textBox.Corners())
+        for (const SheetPoint corner : shape.textBox.Corners())
             bounds.Add(corner);
     }
     return bounds;
@@ -61,7 +61,7 @@ SheetLayout LayoutWith(const Drawing& drawing, const SheetTransform& transform, 
     layout.transform = transform;
     for (const std::vector<DrawingPoint>& outline : drawing.outlines)
     {
-        std::vector<PixelPoint>& points = layout.outlines.emplace_back();
+        std::vector<SheetPoint>& points = layout.outlines.emplace_back();
         for (const DrawingPoint& point : outline)
             points.push_back(transform.ToPixel(point));
     }
@@ -80,9 +80,9 @@ Bounds ScalableBounds(const Drawing& drawing)
                       [&](const DrawingPoint& point) { bounds.Add(millimetres.ToPixel(point)); });
     for (const DrawingDimension& dimension : drawing.dimensions)
     {
-        const PixelVector span = millimetres.ToPixel(dimension.to) - millimetres.ToPixel(dimension.from);
+        const SheetVector span = millimetres.ToPixel(dimension.to) - millimetres.ToPixel(dimension.from);
         const double length = std::hypot(span.x, span.y);
-        const PixelVector aside = length > 0.0 ? LeftOf(span) * (dimension.offset / length) : PixelVector{};
+        const SheetVector aside = length > 0.0 ? LeftOf(span) * (dimension.offset / length) : SheetVector{};
         for (const DrawingPoint& point : {dimension.from, dimension.to})
         {
             bounds.Add(millimetres.ToPixel(point));

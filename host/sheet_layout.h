@@ -8,7 +8,7 @@
 struct SheetLayout
 {
     SheetTransform transform;
-    std::vector<std::vector<PixelPoint>> outlines;
+    std::vector<std::vector<SheetPoint>> outlines;
     std::vector<DimensionShape> dimensions;  ///< in the drawing's order
 };
 

@@ -57,7 +57,7 @@ DimensionColours ColoursOf(bool isHighlighted, bool isLoaded)
     return {kPlain, kPlain, ::GetSysColor(COLOR_WINDOW), kLineWidth};
 }
 
-CPoint ToPoint(PixelPoint point)
+CPoint ToPoint(SheetPoint point)
 {
     return {static_cast<int>(std::lround(point.x)), static_cast<int>(std::lround(point.y))};
 }
@@ -67,21 +67,21 @@ int WholePixels(double units, double unit)
     return std::max(1, static_cast<int>(std::lround(units * unit)));
 }
 
-void Polyline(CDC& dc, const std::vector<PixelPoint>& line)
+void Polyline(CDC& dc, const std::vector<SheetPoint>& line)
 {
     std::vector<POINT> points;
     std::transform(line.begin(), line.end(), std::back_inserter(points), ToPoint);
     dc.Polyline(points.data(), static_cast<int>(points.size()));
 }
 
-void Line(CDC& dc, const PixelLine& line)
+void Line(CDC& dc, const SheetLine& line)
 {
     dc.MoveTo(ToPoint(line.from));
     dc.LineTo(ToPoint(line.to));
 }
 
 template <std::size_t count>
-void Fill(CDC& dc, const std::array<PixelPoint, count>& corners, COLORREF colour)
+void Fill(CDC& dc, const std::array<SheetPoint, count>& corners, COLORREF colour)
 {
     CBrush brush(colour);
     const ScopedSelect fill(dc, brush);
@@ -91,7 +91,7 @@ void Fill(CDC& dc, const std::array<PixelPoint, count>& corners, COLORREF colour
     dc.Polygon(points.data(), static_cast<int>(count));
 }
 
-void FillArrow(CDC& dc, const std::array<PixelPoint, 3>& arrow, COLORREF colour)
+void FillArrow(CDC& dc, const std::array<SheetPoint, 3>& arrow, COLORREF colour)
 {
     // With a border: without one a polygon ends a pixel before its right and lower corners.
     CPen pen(PS_SOLID, 1, colour);
@@ -113,16 +113,16 @@ void PaintLines(CDC& dc, const DimensionShape& shape, const DimensionColours& co
     {
         CPen thin(PS_SOLID, WholePixels(kLineWidth, unit), colours.line);
         const ScopedSelect pen(dc, thin);
-        for (const PixelLine& line : shape.extensionLines)
+        for (const SheetLine& line : shape.extensionLines)
             Line(dc, line);
     }
     {
         CPen wide(PS_SOLID, WholePixels(colours.width, unit), colours.line);
         const ScopedSelect pen(dc, wide);
-        for (const PixelLine& line : shape.dimensionLines)
+        for (const SheetLine& line : shape.dimensionLines)
             Line(dc, line);
     }
-    for (const std::array<PixelPoint, 3>& arrow : shape.arrows)
+    for (const std::array<SheetPoint, 3>& arrow : shape.arrows)
         FillArrow(dc, arrow, colours.line);
 }
 
@@ -162,7 +162,7 @@ void PaintSheet(CDC& dc, const CRect& area, const SheetLayout& layout, const She
     {
         CPen outlinePen(PS_SOLID, WholePixels(kOutlineWidth, unit), ::GetSysColor(COLOR_WINDOWTEXT));
         const ScopedSelect pen(dc, outlinePen);
-        for (const std::vector<PixelPoint>& outline : layout.outlines)
+        for (const std::vector<SheetPoint>& outline : layout.outlines)
             Polyline(dc, outline);
     }
     const std::vector<std::size_t> order = PaintingOrder(layout.dimensions.size(), marks);

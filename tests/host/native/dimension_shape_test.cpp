@@ -6,7 +6,7 @@
 
 #include "fixed_text_measure.h"
 
-void PrintTo(const PixelPoint& point, std::ostream* out)
+void PrintTo(const SheetPoint& point, std::ostream* out)
 {
     *out << '(' << point.x << ", " << point.y << ')';
 }
@@ -15,13 +15,13 @@ namespace
 {
 constexpr double kNear = 1e-9;  // sums of a few doubles of some hundred pixels
 
-void ExpectNear(PixelPoint actual, PixelPoint expected)
+void ExpectNear(SheetPoint actual, SheetPoint expected)
 {
     EXPECT_NEAR(actual.x, expected.x, kNear);
     EXPECT_NEAR(actual.y, expected.y, kNear);
 }
 
-void ExpectNear(const PixelLine& actual, PixelPoint from, PixelPoint to)
+void ExpectNear(const SheetLine& actual, SheetPoint from, SheetPoint to)
 {
     ExpectNear(actual.from, from);
     ExpectNear(actual.to, to);
@@ -115,7 +115,7 @@ TEST(DimensionShape, TextStandsAboveTheMiddleOfItsLine)
     ASSERT_EQ(shape.texts.size(), 1U);
     EXPECT_EQ(shape.texts[0].text, "100");
     ExpectNear(shape.texts[0].box.corner, {41, 179});
-    EXPECT_EQ(shape.texts[0].box.direction, (PixelVector{1, 0}));
+    EXPECT_EQ(shape.texts[0].box.direction, (SheetVector{1, 0}));
     EXPECT_EQ(shape.texts[0].box.width, 18);
     EXPECT_EQ(shape.texts[0].box.height, 10);
 }
@@ -178,7 +178,7 @@ TEST(DimensionShape, ADimensionFromRightToLeftReadsTheSameWay)
     dimension.offset = -10;
     const DimensionShape shape = Layout(dimension);
 
-    EXPECT_EQ(shape.texts[0].box.direction, (PixelVector{1, 0}));
+    EXPECT_EQ(shape.texts[0].box.direction, (SheetVector{1, 0}));
     ExpectNear(shape.texts[0].box.corner, {41, 179});
 }
 

@@ -22,7 +22,7 @@ Drawing Plate(double width, double height)
 
 void ExpectInside(const SheetLayout& layout, double width, double height)
 {
-    const auto expectInside = [&](PixelPoint point) {
+    const auto expectInside = [&](SheetPoint point) {
         EXPECT_GE(point.x, -kNearPixels);
         EXPECT_GE(point.y, -kNearPixels);
         EXPECT_LE(point.x, width + kNearPixels);
@@ -32,12 +32,12 @@ void ExpectInside(const SheetLayout& layout, double width, double height)
         std::for_each(outline.begin(), outline.end(), expectInside);
     for (const DimensionShape& shape : layout.dimensions)
     {
-        for (const PixelLine& line : shape.dimensionLines)
+        for (const SheetLine& line : shape.dimensionLines)
         {
             expectInside(line.from);
             expectInside(line.to);
         }
-        for (const PixelPoint corner : shape.textBox.Corners())
+        for (const SheetPoint corner : shape.textBox.Corners())
             expectInside(corner);
     }
 }
@@ -49,7 +49,7 @@ TEST(SheetLayout, FillsTheAreaUpToTheMarginAndCentresTheRest)
     const SheetLayout layout = LayoutSheet(Plate(100, 25), 232, 132, FixedTextMeasure(), 1.0);
 
     EXPECT_NEAR(layout.transform.scale, 2.0, kNearPixels);
-    const std::vector<PixelPoint>& outline = layout.outlines.at(0);
+    const std::vector<SheetPoint>& outline = layout.outlines.at(0);
     EXPECT_NEAR(outline[0].x, 16, kNearPixels);
     EXPECT_NEAR(outline[0].y, 66 + 25, kNearPixels);
     EXPECT_NEAR(outline[2].x, 216, kNearPixels);

@@ -29,7 +29,7 @@ protected:
     CPoint PointOf(const std::string& name) const
     {
         const std::size_t index = *m_frame->Objects().IndexOf(&Object(name));
-        const PixelLine& line = m_frame->Sheet().Layout().dimensions[index].dimensionLines.at(0);
+        const SheetLine& line = m_frame->Sheet().Layout().dimensions[index].dimensionLines.at(0);
         return {static_cast<int>(std::lround((line.from.x + line.to.x) / 2)),
                 static_cast<int>(std::lround((line.from.y + line.to.y) / 2))};
     }
