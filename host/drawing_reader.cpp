@@ -206,21 +206,83 @@ std::string Reason(const std::string& message)
     return message;
 }
 
+/// Where in the file the parser stands: in each object and array around it the member or element that it reads now.
+class ParserPlace
+{
+public:
+    void EnterObject() { m_around.emplace_back(); }
+    void EnterArray() { m_around.emplace_back().isArray = true; }
+    /// False when the object has a member of that name already.
+    bool EnterMember(const std::string& name)
+    {
+        m_around.back().member = name;
+        return m_around.back().members.insert(name).second;
+    }
+    void LeaveContainer()
+    {
+        m_around.pop_back();
+        LeaveValue();
+    }
+    void LeaveValue()
+    {
+        if (!m_around.empty())
+            ++m_around.back().index;
+    }
+
+    std::string Path() const
+    {
+        std::string path;
+        for (const Container& container : m_around)
+        {
+            if (container.isArray)
+                path += "[" + std::to_string(container.index) + "]";
+            else
+                path += (path.empty() ? "" : ".") + container.member;
+        }
+        return path;
+    }
+
+private:
+    struct Container
+    {
+        bool isArray = false;
+        std::size_t index = 0;  // of an array
+        std::string member;     // of an object
+        std::set<std::string> members;
+    };
+
+    std::vector<Container> m_around;  // from the outermost
+};
+
 Json ParseJson(std::string_view text, const std::string& fileName)
 {
-    std::vector<std::set<std::string>> openObjects;
-    const auto refuseTwins = [&](int, Json::parse_event_t event, Json& value) {
-        if (event == Json::parse_event_t::object_start)
-            openObjects.emplace_back();
-        else if (event == Json::parse_event_t::object_end)
-            openObjects.pop_back();
-        else if (event == Json::parse_event_t::key && !openObjects.back().insert(value.get<std::string>()).second)
-            Refuse(fileName, "", "an object has two members \"" + value.get<std::string>() + "\"");
+    ParserPlace place;
+    const auto follow = [&](int, Json::parse_event_t event, const Json& value) {
+        switch (event)
+        {
+        case Json::parse_event_t::object_start:
+            place.EnterObject();
+            break;
+        case Json::parse_event_t::array_start:
+            place.EnterArray();
+            break;
+        case Json::parse_event_t::key:
+            if (!place.EnterMember(value.get<std::string>()))
+                Refuse(fileName, place.Path(), "is given twice");
+            break;
+        case Json::parse_event_t::object_end:
+        case Json::parse_event_t::array_end:
+            place.LeaveContainer();
+            break;
+        case Json::parse_event_t::value:
+            place.LeaveValue();
+            break;
+        }
         return true;
     };
     try
     {
-        return Json::parse(text, refuseTwins);
+        return Json::parse(text, follow);
     }
     catch (const Json::parse_error& error)
     {
@@ -228,7 +290,7 @@ Json ParseJson(std::string_view text, const std::string& fileName)
     }
     catch (const Json::out_of_range& error)
     {
-        Refuse(fileName, "", Reason(error.what()));
+        Refuse(fileName, place.Path(), Reason(error.what()));
     }
 }
 }  // namespace
