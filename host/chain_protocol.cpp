@@ -10,16 +10,6 @@
 namespace
 {
 
-using Loader = void (CCalcTolDlgBase::*)(CString&, CString&, CString&, int&, CString&, CString&, CString&, int, int&);
-
-void Load(CCalcTolDlgBase& dialog, Loader loader, CDimParams params)
-{
-    int weightFixed = params.weightFixed;
-    int increasing = params.increasing;
-    (dialog.*loader)(params.name, params.nominal, params.caption, weightFixed, params.tolField, params.upperDev,
-                     params.lowerDev, params.dimKind, increasing);
-}
-
 bool IsLoaded(const std::optional<CDimParams>& record)
 {
     return record && !record->nominal.IsEmpty();
@@ -291,12 +281,12 @@ bool ChainProtocol::Pick(const DrawingObject& object)
     case ChainRound::kAddingLink:
     case ChainRound::kEditingLink:
         m_loaded = &object;
-        Load(*m_dialog, &CCalcTolDlgBase::SetDlgParams, ToParams(object.dimension));
+        LoadRecord(*m_dialog, &CCalcTolDlgBase::SetDlgParams, ToParams(object.dimension));
         break;
     case ChainRound::kAddingClosing:
     case ChainRound::kEditingClosing:
         m_loaded = &object;
-        Load(*m_dialog, &CCalcTolDlgBase::SetCloseDimDlgParams, ToParams(object.dimension));
+        LoadRecord(*m_dialog, &CCalcTolDlgBase::SetCloseDimDlgParams, ToParams(object.dimension));
         break;
     default:
         return false;

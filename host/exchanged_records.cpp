@@ -28,6 +28,14 @@ CDimParams ToParams(const DrawingDimension& dimension)
             .dimKind = dimension.kind};
 }
 
+void LoadRecord(CCalcTolDlgBase& dialog, RecordLoader loader, CDimParams params)
+{
+    int weightFixed = params.weightFixed;
+    int increasing = params.increasing;
+    (dialog.*loader)(params.name, params.nominal, params.caption, weightFixed, params.tolField, params.upperDev,
+                     params.lowerDev, params.dimKind, increasing);
+}
+
 CopiedLink ToCopy(const CDimParams& params)
 {
     CopiedLink link{.name = ToUtf8(params.name),

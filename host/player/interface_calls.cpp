@@ -3,6 +3,7 @@
 #include <string>
 
 #include "calc/number_text.h"
+#include "host/exchanged_records.h"
 #include "host/player/notification_log.h"
 #include "host/player/step_failure.h"
 #include "host/player/window_text.h"
@@ -130,15 +131,9 @@ void* ObjectOf(const Call& call)
     return call.step.Chose("null") ? nullptr : call.play.host.ObjectOf(call.step.words[1]);
 }
 
-using Loader = void (CCalcTolDlgBase::*)(CString&, CString&, CString&, int&, CString&, CString&, CString&, int, int&);
-
-void Load(const Call& call, Loader loader)
+void Load(const Call& call, RecordLoader loader)
 {
-    CDimParams params = DimensionOf(call);
-    int weightFixed = params.weightFixed;
-    int increasing = params.increasing;
-    (call.dialog.*loader)(params.name, params.nominal, params.caption, weightFixed, params.tolField, params.upperDev,
-                          params.lowerDev, params.dimKind, increasing);
+    LoadRecord(call.dialog, loader, DimensionOf(call));
 }
 
 struct Operation
