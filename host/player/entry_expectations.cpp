@@ -7,6 +7,7 @@
 #include "host/player/step_handler.h"
 #include "host/player/window_roles.h"
 #include "host/player/window_text.h"
+#include "platform/gdi/scoped_select.h"
 
 #include <commctrl.h>
 
@@ -87,22 +88,23 @@ LOGFONTW FontOf(HWND combo)
 Ink TextInk(LOGFONTW description, LONG weight, const std::wstring& text)
 {
     description.lfWeight = weight;
-    const DrawnPicture picture(kPictureWidth, kPictureHeight, ToRgb(GetSysColor(COLOR_WINDOW)));
-    const HFONT font = CreateFontIndirectW(&description);
-    const HGDIOBJ former = SelectObject(picture.Dc(), font);
-    SetTextColor(picture.Dc(), GetSysColor(COLOR_WINDOWTEXT));
-    SetBkColor(picture.Dc(), GetSysColor(COLOR_WINDOW));
-    ExtTextOutW(picture.Dc(), 0, 0, 0, nullptr, text.c_str(), static_cast<UINT>(text.size()), nullptr);
-    SelectObject(picture.Dc(), former);
-    DeleteObject(font);
+    DrawnPicture picture(kPictureWidth, kPictureHeight, ToRgb(GetSysColor(COLOR_WINDOW)));
+    CDC& dc = picture.Dc();
+    CFont font;
+    font.CreateFontIndirect(&description);
+    const ScopedSelect selected(dc, font);
+    dc.SetTextColor(GetSysColor(COLOR_WINDOWTEXT));
+    dc.SetBkColor(GetSysColor(COLOR_WINDOW));
+    dc.ExtTextOut(0, 0, 0, nullptr, text.c_str(), static_cast<UINT>(text.size()), nullptr);
     return InkOf(picture.Take());
 }
 
 // The entry as the combo box's owner draws it when it is asked to, into a picture instead of the list.
 Ink OwnerDrawnInk(HWND combo, HWND inner, int entry)
 {
-    const DrawnPicture picture(kPictureWidth, kPictureHeight, ToRgb(GetSysColor(COLOR_WINDOW)));
-    const HGDIOBJ former = SelectObject(picture.Dc(), reinterpret_cast<HGDIOBJ>(SendMessageW(combo, WM_GETFONT, 0, 0)));
+    DrawnPicture picture(kPictureWidth, kPictureHeight, ToRgb(GetSysColor(COLOR_WINDOW)));
+    const auto font = reinterpret_cast<HGDIOBJ>(SendMessageW(combo, WM_GETFONT, 0, 0));
+    const ScopedSelect selected(picture.Dc(), font);
     DRAWITEMSTRUCT request = {};
     request.CtlType = ODT_COMBOBOX;
     request.CtlID = static_cast<UINT>(GetDlgCtrlID(inner));
@@ -113,7 +115,6 @@ Ink OwnerDrawnInk(HWND combo, HWND inner, int entry)
     request.rcItem = {0, 0, kPictureWidth, kPictureHeight};
     request.itemData = static_cast<ULONG_PTR>(SendMessageW(inner, CB_GETITEMDATA, static_cast<WPARAM>(entry), 0));
     SendMessageW(GetParent(inner), WM_DRAWITEM, request.CtlID, reinterpret_cast<LPARAM>(&request));
-    SelectObject(picture.Dc(), former);
     return InkOf(picture.Take());
 }
 

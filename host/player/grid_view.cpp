@@ -33,7 +33,7 @@ ListImage ImageOf(HIMAGELIST images, int index, int width, int height)
     const std::array<std::uint32_t, 2> grounds{0x000000, 0xFFFFFF};
     for (std::size_t i = 0; i < grounds.size(); ++i)
     {
-        const DrawnPicture picture(width, height, grounds[i]);
+        DrawnPicture picture(width, height, grounds[i]);
         ImageList_Draw(images, index, picture.Dc(), 0, 0, ILD_TRANSPARENT);
         pictures[i] = picture.Take();
     }

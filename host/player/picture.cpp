@@ -16,16 +16,23 @@ bool IsEmulated()
     return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
 }
 
-// The window with its children, from its DC: that of the cache, which neither children nor neighbours cut.
+// A window's DC of the cache, which neither children nor neighbours cut; none where Windows has none to give.
+class CachedDc : public CDC
+{
+public:
+    CachedDc(HWND window, DWORD flags) : m_window(window) { Attach(GetDCEx(window, nullptr, DCX_CACHE | flags)); }
+    ~CachedDc() override { ReleaseDC(m_window, Detach()); }
+
+private:
+    HWND m_window;
+};
+
+// The window with its children.
 Picture FromWindow(HWND window, int width, int height, DWORD whichDc)
 {
     DrawnPicture picture(width, height, 0);
-    const HDC source = GetDCEx(window, nullptr, DCX_CACHE | whichDc);
-    if (source != nullptr)
-    {
-        BitBlt(picture.Dc(), 0, 0, width, height, source, 0, 0, SRCCOPY);
-        ReleaseDC(window, source);
-    }
+    CachedDc source(window, whichDc);
+    picture.Dc().BitBlt(0, 0, width, height, &source, 0, 0, SRCCOPY);
     return picture.Take();
 }
 
@@ -76,24 +83,15 @@ DrawnPicture::DrawnPicture(int width, int height, std::uint32_t colour)
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
     void* bits = nullptr;
-    m_bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    if (m_bitmap == nullptr)
+    if (!m_bitmap.Attach(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0)))
         throw StepFailure("Windows has no memory for a picture");
     m_bits = static_cast<const std::uint32_t*>(bits);
-    m_dc = CreateCompatibleDC(nullptr);
-    m_former = SelectObject(m_dc, m_bitmap);
+    m_dc.CreateCompatibleDC(nullptr);
+    m_selected.emplace(m_dc, m_bitmap);
 
-    const HBRUSH brush = CreateSolidBrush(ToColorRef(colour));
+    CBrush brush(ToColorRef(colour));
     const RECT area{0, 0, m_width, m_height};
-    FillRect(m_dc, &area, brush);
-    DeleteObject(brush);
-}
-
-DrawnPicture::~DrawnPicture()
-{
-    SelectObject(m_dc, m_former);
-    DeleteDC(m_dc);
-    DeleteObject(m_bitmap);
+    m_dc.FillRect(&area, &brush);
 }
 
 Picture DrawnPicture::Take() const
@@ -145,21 +143,16 @@ Picture BitmapPicture(HBITMAP bitmap)
     if (bitmap == nullptr || GetObjectW(bitmap, sizeof(size), &size) == 0)
         return {};
     DrawnPicture picture(size.bmWidth, size.bmHeight, 0);
-    const HDC source = CreateCompatibleDC(nullptr);
-    const HGDIOBJ former = SelectObject(source, bitmap);
-    BitBlt(picture.Dc(), 0, 0, size.bmWidth, size.bmHeight, source, 0, 0, SRCCOPY);
-    SelectObject(source, former);
-    DeleteDC(source);
+    CDC source;
+    source.CreateCompatibleDC(nullptr);
+    const ScopedSelect selected(source, bitmap);
+    picture.Dc().BitBlt(0, 0, size.bmWidth, size.bmHeight, &source, 0, 0, SRCCOPY);
     return picture.Take();
 }
 
 Picture ResourcePicture(HMODULE library, int id)
 {
-    const auto bitmap =
-        static_cast<HBITMAP>(LoadImageW(library, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
-    if (bitmap == nullptr)
-        return {};
-    Picture picture = BitmapPicture(bitmap);
-    DeleteObject(bitmap);
-    return picture;
+    CBitmap bitmap;
+    bitmap.Attach(LoadImageW(library, MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
+    return BitmapPicture(bitmap);
 }

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
-#include <windows.h>
+#include <afxwin.h>
+
+#include "platform/gdi/scoped_select.h"
 
 /// Pixels as 0xRRGGBB, row by row from the top.
 struct Picture
@@ -29,20 +32,17 @@ class DrawnPicture
 public:
     /// Filled with the colour; throws StepFailure when Windows has no bitmap of that size.
     DrawnPicture(int width, int height, std::uint32_t colour);
-    ~DrawnPicture();
-    DrawnPicture(const DrawnPicture&) = delete;
-    DrawnPicture& operator=(const DrawnPicture&) = delete;
 
-    HDC Dc() const { return m_dc; }
+    CDC& Dc() { return m_dc; }
     Picture Take() const;
 
 private:
     int m_width;
     int m_height;
-    HDC m_dc = nullptr;
-    HBITMAP m_bitmap = nullptr;
-    HGDIOBJ m_former = nullptr;
-    const std::uint32_t* m_bits = nullptr;
+    CBitmap m_bitmap;
+    const std::uint32_t* m_bits = nullptr;  // the bitmap's
+    CDC m_dc;
+    std::optional<ScopedSelect> m_selected;  // the bitmap, from when it is there
 };
 
 std::uint32_t ToRgb(COLORREF colour);
