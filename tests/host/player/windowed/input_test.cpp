@@ -260,6 +260,27 @@ TEST_F(PlayedInput, AClickFallsOnTheMiddleOfItsCell)
     ExpectFails(host, "click link 1000 0 0 expand\n", 1, "row 0 shows no expand image");
 }
 
+// Far more rows than the 140 pixels of the grid have room for, and two columns of 200 in its 290.
+TEST_F(PlayedInput, ACellOutOfViewIsScrolledToBeforeTheClick)
+{
+    const HWND list = dialog.Control(1000);
+    for (int row = 3; row < 40; ++row)
+    {
+        LVITEMW item = {};
+        item.iItem = row;
+        SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    }
+    for (const int column : {0, 1})
+        ListView_SetColumnWidth(list, column, 200);
+    ExpectHolds(host, "click link 1000 39 1\n");
+    EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_FOCUSED), 39);
+    Listener grid(list);
+    ExpectHolds(host, "click link 1000 0 0\n");
+    EXPECT_EQ(ListView_GetNextItem(list, -1, LVNI_FOCUSED), 0);
+    ASSERT_FALSE(grid.heard.empty());
+    EXPECT_EQ(grid.heard[0].substr(0, 9), "down 100,");
+}
+
 TEST_F(PlayedInput, ADoubleClickIsTwoClicks)
 {
     Listener grid(dialog.Control(1000));
