@@ -4,6 +4,7 @@
 program_test.py RUNNER PROGRAM EXAMPLES, where RUNNER starts Windows programs.
 """
 
+import os
 import subprocess
 import sys
 import tempfile
@@ -18,8 +19,9 @@ CHOOSE_METHOD = "open\ncommand 32788\n"
 
 
 class Run:
-    def __init__(self, *arguments, folder=None):
-        done = subprocess.run([RUNNER, PROGRAM, *map(str, arguments)], cwd=folder, capture_output=True, timeout=100)
+    def __init__(self, *arguments, folder=None, environment=None):
+        done = subprocess.run([RUNNER, PROGRAM, *map(str, arguments)], cwd=folder, env=environment, capture_output=True,
+                              timeout=100)
         self.code = done.returncode
         self.out = done.stdout.decode("utf-8").replace("\r\n", "\n")
         self.err = done.stderr.decode("utf-8").replace("\r\n", "\n")
@@ -36,8 +38,8 @@ class ProgramTest(unittest.TestCase):
         path.write_text(text, encoding="utf-8")
         return path.name
 
-    def run_host(self, *arguments):
-        return Run(*arguments, folder=self.folder)
+    def run_host(self, *arguments, environment=None):
+        return Run(*arguments, folder=self.folder, environment=environment)
 
     def play(self, script, *arguments):
         return self.run_host("--play", self.file("test.play", script), *arguments)
@@ -127,6 +129,25 @@ class Plays(ProgramTest):
         run = self.play(script + "expect-open weight\n")
         self.assertIn("closed before the play had ended", run.err)
         self.assertEqual(run.code, 1)
+
+
+class Display(ProgramTest):
+    def keep_desktop(self):
+        """Keeps the desktop up. A host that finds none makes one, and one without a display would outlive it."""
+        play = self.file("waits.play", "expect-open host\nexpect-open weight\n")
+        other = subprocess.Popen([RUNNER, PROGRAM, "--play", play], cwd=self.folder, stdout=subprocess.PIPE)
+        self.addCleanup(other.stdout.close)
+        self.addCleanup(other.wait)
+        self.addCleanup(other.kill)
+        self.assertIn(b"ok   1: expect-open host", other.stdout.readline())
+
+    def test_no_display(self):
+        self.keep_desktop()
+        environment = {**os.environ, "DISPLAY": ":9999"}
+        if "SECOND_DISPLAY" in environment:
+            environment["SECOND_DISPLAY"] = ":9999"
+        run = self.run_host("--play", self.file("test.play", "expect-open host\n"), environment=environment)
+        self.assert_refused(run, 1, "the main window can't be created; is there a display?")
 
 
 class Roads(ProgramTest):
