@@ -43,9 +43,10 @@ int ScaleReach(int width);
 /// left. The labels of a marker without a line stand at the centre line.
 LimitMarkers PlaceMarkers(const DiagramDeviations& deviations, int width);
 
-/// As PlaceMarkers, but keeps two computed markers on the same side at least 40 pixels apart.
+/// As PlaceMarkers, but keeps the other computed marker at least 40 pixels from one on its side that has the largest
+/// deviation of all.
 ///
-/// The inner one moves to 40 pixels inside the outer one, which has the largest deviation of all; the distances of the
-/// required markers from the centre line are multiplied by the inner one's former distance over its new one. Without 40
-/// pixels between the outer marker and the centre line nothing moves.
+/// The other one moves to 40 pixels inside; the distances of the required markers from the centre line are multiplied
+/// by its former distance over its new one. Without 40 pixels between the outer marker and the centre line nothing
+/// moves.
 LimitMarkers PlaceSpreadMarkers(const DiagramDeviations& deviations, int width);

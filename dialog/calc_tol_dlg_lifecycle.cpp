@@ -1,11 +1,10 @@
 // The calculation dialog's window: creation, method, reset, end.
 
-#include <exception>
-
 #include "calc/chain_calculation.h"
 #include "diagram/weight_dlg.h"
 #include "dialog/calc_tol_dlg.h"
 #include "dialog/columns.h"
+#include "dialog/interface_guard.h"
 #include "distribution/variable_dlg.h"
 #include "drawing/link_image.h"
 #include "interface/notify_host.h"
@@ -66,25 +65,6 @@ void EndIfOpen(CDialog* child, int result)
 {
     if (child != nullptr && ::IsWindow(child->m_hWnd) && child->ContinueModal())
         child->EndDialog(result);
-}
-
-// Whether the action says so. What it throws ends here: no exception crosses the interface.
-template <typename Action>
-bool Succeeds(Action action)
-{
-    try
-    {
-        return action();
-    }
-    catch (CException* exception)
-    {
-        exception->Delete();
-        return false;
-    }
-    catch (const std::exception&)
-    {
-        return false;
-    }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "diagram/weight_dlg.h"
 #include "dialog/calc_tol_dlg.h"
 #include "dialog/columns.h"
+#include "dialog/interface_guard.h"
 #include "dialog/row_values.h"
 #include "dialog/weight_fixed_text.h"
 #include "drawing/link_image.h"
@@ -60,8 +61,9 @@ void CCalcTolDlg::AddToList(void* hostObject)
     std::unique_ptr<CDimLink> record = NewRecord(hostObject, params);
     Row* const row = m_chainList.CreateRow(params.name, LinkImage(params.dimKind), record.get());
     const CDimLink* const owned = record.release();
-    const RowKey key = m_chainList.AddChildRow(m_chainRow, row);
-    if (key == nullptr)  // the window has gone meanwhile, and the row with it
+    const RowKey key = row->Key();
+    Succeeds([&] { return m_chainList.AddChildRow(m_chainRow, row) != nullptr; });
+    if (m_chainList.FindRow(key) == nullptr)  // the window has gone meanwhile, and the row with it
     {
         delete owned;
         return;
@@ -112,8 +114,10 @@ void* CCalcTolDlg::GetCloseObject()
 // Part of the exported interface without an effect.
 void CCalcTolDlg::GetCurrentObject(void* /*hostObject*/) {}
 
+// An editor closes first: the dialog is told that its list has the keyboard again, when nothing is half deleted.
 void CCalcTolDlg::OnDeleteDimChain()
 {
+    m_chainList.CloseEditor();
     const Row* const link = FocusLink();
     if (link == nullptr)
         return;
@@ -144,6 +148,7 @@ void CCalcTolDlg::DeleteLink(const Row& row)
 
 void CCalcTolDlg::DeleteAllLinks()
 {
+    m_chainList.CloseEditor();
     const Row* const chain = ChainRow();
     if (chain == nullptr)
         return;

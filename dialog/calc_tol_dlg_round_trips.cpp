@@ -304,13 +304,14 @@ void CCalcTolDlg::SetCurrentFRowData(CDimParams& params)
     const Row* const link = FocusLink();
     if (link == nullptr)
         return;
+    // The list tells the dialog of changed texts: the link may be gone after the first.
+    RecordOf(*link)->increasing = params.increasing;
+    RecordOf(*link)->mean = MeanOf(params);
     const RowKey key = link->Key();
     m_chainList.SetCellText(key, kColumnName, params.name);
     m_chainList.SetCellText(key, kColumnField, params.tolField);
     m_chainList.SetCellText(key, kColumnUpperDev, params.upperDev);
     m_chainList.SetCellText(key, kColumnLowerDev, params.lowerDev);
-    RecordOf(*link)->increasing = params.increasing;
-    RecordOf(*link)->mean = MeanOf(params);
     m_chainList.SetCellText(key, kColumnWeightFixed, WeightFixedText(params.weightFixed));
 }
 

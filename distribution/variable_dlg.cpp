@@ -125,6 +125,8 @@ void CVariableDlg::ShowSigma()
 void CVariableDlg::OnSelchangeLaw()
 {
     const CModuleSkin skin(kModuleCalcTol);
+    if (m_isCancelled)
+        return;
     if (TakeSelectedLaw())
         ShowSigma();
     RepaintNow();
@@ -133,7 +135,7 @@ void CVariableDlg::OnSelchangeLaw()
 void CVariableDlg::OnRedraw()
 {
     const CModuleSkin skin(kModuleCalcTol);
-    if (AcceptMean())
+    if (!m_isCancelled && AcceptMean())
         RepaintNow();
 }
 

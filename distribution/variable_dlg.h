@@ -18,7 +18,7 @@
 ///
 /// The host may end, destroy or delete the dialog inside a message. Ended that way, it keeps the result it was given.
 /// A host that lets the user press OK or Cancel inside the report of an OK hears of that, too, and it gives the result.
-/// After Cancel nothing is accepted any more.
+/// After Cancel nothing is taken any more.
 class CVariableDlg : public CChildDialog
 {
 public:

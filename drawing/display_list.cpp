@@ -65,8 +65,12 @@ struct Writer
     void operator()(const TextPrimitive& text) const
     {
         out << "text " << text.anchor << ' ' << Word(text.align) << ' ' << text.color << ' ' << Quoted(text.text);
-        if (text.halo > 0)
-            out << " halo " << text.halo;
+        if (text.isLifted)
+            out << " lifted";
+    }
+    void operator()(const HaloPrimitive& halo) const
+    {
+        out << "halo " << halo.corner << ' ' << halo.reach << ' ' << Quoted(halo.text);
     }
     void operator()(const FillPrimitive& fill) const { out << "fill " << fill.color << ' ' << fill.corners; }
     void operator()(const RectPrimitive& rect) const

@@ -50,10 +50,20 @@ struct TextPrimitive
     PixelPoint anchor;
     TextAlign align = TextAlign::Left;
     Rgb color;
-    std::string text;  // UTF-8
-    int halo = 0;      // pixels that white reaches to either side of the letters; 0: there is none
+    std::string text;       // UTF-8
+    bool isLifted = false;  // only the letters are painted, whatever the look of the texts
 
     bool operator==(const TextPrimitive&) const = default;
+};
+
+/// White around the letters of a text to come, which keeps what is below off them.
+struct HaloPrimitive
+{
+    PixelPoint corner;  // the text's top left
+    int reach = 0;      // to either side of the letters, pixels
+    std::string text;   // UTF-8
+
+    bool operator==(const HaloPrimitive&) const = default;
 };
 
 /// A filled polygon region, without border. It has at least three corners.
@@ -85,7 +95,8 @@ struct OutlinePrimitive
     bool operator==(const OutlinePrimitive&) const = default;
 };
 
-using Primitive = std::variant<LinePrimitive, TextPrimitive, FillPrimitive, RectPrimitive, OutlinePrimitive>;
+using Primitive =
+    std::variant<LinePrimitive, TextPrimitive, HaloPrimitive, FillPrimitive, RectPrimitive, OutlinePrimitive>;
 
 /// How a picture's texts are written.
 enum class TextLook
@@ -112,7 +123,8 @@ struct DisplayList
 /// One primitive a line, each line ended, words separated by blanks:
 ///
 ///     line X1 Y1 X2 Y2
-///     text X Y left|center|right RRGGBB "T" [halo REACH]
+///     text X Y left|center|right RRGGBB "T" [lifted]
+///     halo X Y REACH "T"
 ///     fill RRGGBB X1 Y1 X2 Y2 ...
 ///     rect RRGGBB LEFT TOP RIGHT BOTTOM
 ///     outline X1 Y1 X2 Y2 ...

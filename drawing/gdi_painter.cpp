@@ -44,12 +44,20 @@ public:
     void operator()(const TextPrimitive& text) const
     {
         const CString characters = FromUtf8(text.text);
-        m_dc.SetBkMode(text.halo > 0 ? TRANSPARENT : m_groundMode);
+        m_dc.SetBkMode(text.isLifted ? TRANSPARENT : m_groundMode);
         m_dc.SetBkColor(kGround);
-        if (text.halo > 0)
-            PaintHalo(characters, text.anchor, text.halo);
         m_dc.SetTextColor(ToColor(text.color));
         m_dc.TextOut(text.anchor.x, text.anchor.y, characters);
+    }
+
+    void operator()(const HaloPrimitive& halo) const
+    {
+        const CString characters = FromUtf8(halo.text);
+        m_dc.SetBkMode(TRANSPARENT);
+        m_dc.SetTextColor(kGround);
+        for (int x = halo.corner.x - halo.reach; x <= halo.corner.x + halo.reach; ++x)
+            for (int y = halo.corner.y - 1; y <= halo.corner.y + 1; ++y)
+                m_dc.TextOut(x, y, characters);
     }
 
     void operator()(const FillPrimitive& fill) const
@@ -75,14 +83,6 @@ public:
     }
 
 private:
-    void PaintHalo(const CString& characters, PixelPoint corner, int reach) const
-    {
-        m_dc.SetTextColor(kGround);
-        for (int x = corner.x - reach; x <= corner.x + reach; ++x)
-            for (int y = corner.y - 1; y <= corner.y + 1; ++y)
-                m_dc.TextOut(x, y, characters);
-    }
-
     CDC& m_dc;
     int m_groundMode;
 };

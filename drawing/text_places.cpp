@@ -1,7 +1,6 @@
 #include "drawing/text_places.h"
 
 #include <algorithm>
-#include <utility>
 #include <vector>
 
 namespace
@@ -23,12 +22,6 @@ struct TextArea
     }
 };
 
-struct TextPlace
-{
-    PixelPoint corner;
-    bool isFree = true;  // else it covers an earlier text
-};
-
 PixelPoint Corner(const TextPrimitive& text, int width)
 {
     switch (text.align)
@@ -48,16 +41,14 @@ class TextPlaces
 public:
     TextPlaces(int width, int height) : m_width(width), m_height(height) {}
 
-    TextPlace Take(const TextArea& wanted)
+    PixelPoint Take(const TextArea& wanted)
     {
         TextArea area{Inside(wanted), wanted.extent};
         const PixelPoint below = BelowOthers(area);
-        const bool isFree = below.y == area.corner.y;
-        const bool hasRoom = below.y + area.extent.height <= m_height;
-        if (hasRoom)
+        if (below.y + area.extent.height <= m_height)
             area.corner = below;
         m_taken.push_back(area);
-        return {area.corner, isFree || hasRoom};
+        return area.corner;
     }
 
 private:
@@ -113,6 +104,7 @@ struct LineFinder
         return std::ranges::adjacent_find(outline.points, leaves) != outline.points.end();
     }
     bool operator()(const TextPrimitive& /*other*/) const { return false; }
+    bool operator()(const HaloPrimitive& /*halo*/) const { return false; }
     bool operator()(const FillPrimitive& /*fill*/) const { return false; }
     bool operator()(const RectPrimitive& /*rect*/) const { return false; }
 };
@@ -123,32 +115,69 @@ bool HasLineThrough(const DisplayList& list, const TextArea& text)
                                [&text](const Primitive& primitive) { return std::visit(LineFinder{text}, primitive); });
 }
 
+/// A text in its place.
+struct PlacedText
+{
+    TextPrimitive text;
+    TextArea area;
+    bool hasHalo = false;
+
+    int Reach() const { return area.extent.height / kHaloShare; }
+
+    /// What the halo may cover.
+    TextArea Around() const
+    {
+        return {{area.corner.x - Reach(), area.corner.y - 1},
+                {area.extent.width + 2 * Reach(), area.extent.height + 2}};
+    }
+};
+
+std::vector<PlacedText> PlaceTexts(const DisplayList& list, const MeasureText& measure, int width, int height)
+{
+    std::vector<PlacedText> placed;
+    TextPlaces places(width, height);
+    for (const Primitive& primitive : list.primitives)
+        if (const auto* const text = std::get_if<TextPrimitive>(&primitive))
+        {
+            const TextExtent extent = measure(text->text);
+            const TextArea wanted{Corner(*text, extent.width), extent};
+            const PixelPoint corner = places.Take(wanted);
+            PlacedText& result = placed.emplace_back(PlacedText{*text, {corner, extent}});
+            result.text.anchor = corner;
+            result.text.align = TextAlign::Left;
+            result.hasHalo = corner != wanted.corner || HasLineThrough(list, wanted);
+        }
+    return placed;
+}
+
+// A halo must not take the letters of another text away.
+void LiftTextsOverHalos(std::vector<PlacedText>& placed)
+{
+    for (PlacedText& one : placed)
+        one.text.isLifted = std::ranges::any_of(
+            placed, [&one](const PlacedText& other) { return other.hasHalo && other.Around().Covers(one.area); });
+}
+
 }  // namespace
 
 DisplayList WithReadableTexts(const DisplayList& list, const MeasureText& measure, int width, int height)
 {
+    std::vector<PlacedText> placed = PlaceTexts(list, measure, width, height);
+    LiftTextsOverHalos(placed);
+
     DisplayList readable;
     readable.textLook = list.textLook;
-    std::vector<Primitive> lifted;
-    TextPlaces places(width, height);
+    auto text = placed.begin();
     for (const Primitive& primitive : list.primitives)
-    {
-        const auto* const text = std::get_if<TextPrimitive>(&primitive);
-        if (text == nullptr)
-        {
+        if (!std::holds_alternative<TextPrimitive>(primitive))
             readable.primitives.push_back(primitive);
-            continue;
-        }
-        const TextExtent extent = measure(text->text);
-        const PixelPoint wanted = Corner(*text, extent.width);
-        const TextPlace place = places.Take({wanted, extent});
-        const bool isLifted = place.corner != wanted || HasLineThrough(list, {wanted, extent});
-        TextPrimitive placed = *text;
-        placed.anchor = place.corner;
-        placed.align = TextAlign::Left;
-        placed.halo = isLifted && place.isFree ? extent.height / kHaloShare : 0;
-        (isLifted ? lifted : readable.primitives).emplace_back(std::move(placed));
-    }
-    readable.primitives.insert(readable.primitives.end(), lifted.begin(), lifted.end());
+        else if (const PlacedText& own = *text++; !own.text.isLifted)
+            readable.primitives.emplace_back(own.text);
+    for (const PlacedText& own : placed)
+        if (own.hasHalo)
+            readable.primitives.emplace_back(HaloPrimitive{own.area.corner, own.Reach(), own.text.text});
+    for (const PlacedText& own : placed)
+        if (own.text.isLifted)
+            readable.primitives.emplace_back(own.text);
     return readable;
 }

@@ -17,7 +17,7 @@ using MeasureText = std::function<TextExtent(const std::string& text)>;
 ///
 /// A text that would leave the picture moves just so far that it lies inside; one wider than the picture keeps its
 /// beginning. One that would cover an earlier text goes below that, as long as there is room. Moved texts and those
-/// that a line runs through come after everything else, with a halo that keeps lines and colours off their letters; one
-/// that has to stay over another text has none. All other primitives are as they were.
+/// that a line runs through have a halo, which comes after everything else; the letters of every text that a halo
+/// reaches come after the halos. All other primitives are as they were.
 /// @param width  of the picture, pixels, as its height
 DisplayList WithReadableTexts(const DisplayList& list, const MeasureText& measure, int width, int height);

@@ -84,7 +84,10 @@ void CFListCtrl::DeleteRow(RowKey key)
         return;
     CFListRow* const parent = row->Parent();
     HandFocusOver(*row);
+    const int firstSeen = GetTopIndex();
     HideRow(*row);
+    if (GetSafeHwnd() != nullptr && GetTopIndex() != firstSeen)
+        Invalidate(FALSE);  // the list, shorter now, scrolled; not every system repaints what has moved
     (parent != nullptr ? parent->m_children : m_topRows).RemoveAt(row->m_position);
     if (row->m_previousSibling != nullptr)
         row->m_previousSibling->m_nextSibling = row->m_nextSibling;

@@ -53,7 +53,7 @@ CString CTolBox::Code(int index) const
     item.pszText = text.data();
     item.cchTextMax = static_cast<int>(text.size());
     GetItem(&item);
-    return CString(text.data());
+    return CString(item.pszText).Left(kLongestCode);
 }
 
 bool CTolBox::IsListed(int index) const

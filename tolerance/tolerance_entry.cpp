@@ -100,7 +100,6 @@ bool ToleranceEntry::ShowKind(std::int32_t dimKind)
 void ToleranceEntry::Store(const CDimParams& loaded)
 {
     m_record = loaded;
-    m_answeredSelection = false;
     if (loaded.dimKind != kWithoutTolerance)
     {
         ShowFieldDeviations();
@@ -146,7 +145,8 @@ void ToleranceEntry::OnListOpened()
     m_answeredSelection = false;
 }
 
-// Left by Esc, the list has had its selection changes, and the system may put the former text back without a word.
+// Left by Esc, the list has had its selection changes, and the system may put the former text back without a word. No
+// answered field: the texts are not the record's, and nobody has typed since they were written.
 void ToleranceEntry::OnListClosed()
 {
     if (m_answeredField)
@@ -211,7 +211,6 @@ void ToleranceEntry::Reset()
 {
     m_record = CDimParams{};
     m_record.increasing = 1;
-    m_answeredSelection = false;
     if (!::IsWindow(m_dialog.m_hWnd))
         return;
     ShowTexts(m_record);

@@ -9,8 +9,8 @@ namespace iso286
 namespace
 {
 
-constexpr int kFinestGrade = 3;
-constexpr int kCoarsestGrade = 8;
+constexpr int kFinestGradeWithDelta = 3;
+constexpr int kCoarsestGradeWithDelta = 8;
 
 // Delta of IT3 to IT8, micrometres (ISO 286-1, right part of table 3).
 // Laid out as printed, one row a size step:
@@ -39,9 +39,9 @@ static_assert(IsContiguous(kDeltas));
 std::optional<double> HoleDelta(int grade, float size)
 {
     const auto* const step = FindStep(kDeltas, size);
-    if (!step || grade < kFinestGrade || grade > kCoarsestGrade)
+    if (!step || grade < kFinestGradeWithDelta || grade > kCoarsestGradeWithDelta)
         return std::nullopt;
-    return step->values[static_cast<std::size_t>(grade - kFinestGrade)];
+    return step->values[static_cast<std::size_t>(grade - kFinestGradeWithDelta)];
 }
 
 }  // namespace iso286

@@ -15,7 +15,8 @@ public:
 
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) override;
 
-    /// Fills what the mask asks for; the text goes into the buffer that `item` names. Item -1 is the edit field.
+    /// Fills what the mask asks for. The text goes into the buffer that `item` names, or `item` names the control's own
+    /// afterwards. Item -1 is the edit field.
     BOOL GetItem(COMBOBOXEXITEM* item) const
     {
         return static_cast<BOOL>(SendMessage(CBEM_GETITEM, 0, reinterpret_cast<LPARAM>(item)));

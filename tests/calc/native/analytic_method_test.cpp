@@ -44,7 +44,7 @@ TEST(AnalyticMethod, SubtractsTheOppositeLimitsOfDecreasingLinks)
     EXPECT_TRUE(result.nominalMatches);
 }
 
-TEST(AnalyticMethod, WritesItsResultsWithUpToNineDecimalPlaces)
+TEST(AnalyticMethod, WritesItsResultsWithoutTrailingZeros)
 {
     const ChainResult result = WorkedExample();
     EXPECT_EQ(result.nominalText, "6");
@@ -52,6 +52,19 @@ TEST(AnalyticMethod, WritesItsResultsWithUpToNineDecimalPlaces)
     EXPECT_EQ(result.lowerLimitText, "5.85");
     EXPECT_EQ(result.upperDevText, "0.1");
     EXPECT_EQ(result.lowerDevText, "-0.15");
+}
+
+TEST(AnalyticMethod, CutsNoneOfTheNineDecimalPlaces)
+{
+    const ChainResult result = Analytic({Increasing(10.123456789, 0.000000003, -0.000000004), Decreasing(4, 0, 0)},
+                                        {.nominal = 6.123456789, .upperDev = 0.000000006, .lowerDev = -0.000000007});
+    EXPECT_EQ(result.nominalText, "6.123456789");
+    EXPECT_EQ(result.upperLimitText, "6.123456792");
+    EXPECT_EQ(result.lowerLimitText, "6.123456785");
+    EXPECT_EQ(result.upperDevText, "0.000000003");
+    EXPECT_EQ(result.lowerDevText, "-0.000000004");
+    EXPECT_EQ(result.requiredUpperText, "6.123456795");
+    EXPECT_EQ(result.requiredLowerText, "6.123456782");
 }
 
 TEST(AnalyticMethod, LeavesTheProbabilisticValuesEmpty)

@@ -60,6 +60,21 @@ TEST(ProbabilisticMethod, WritesItsLimitsWithUpToFourDecimalPlaces)
     EXPECT_EQ(result.lowerLimitText, "5.8782");
 }
 
+// The middle is 1e-9 above the nominal.
+TEST(ProbabilisticMethod, CutsNoneOfTheNineDecimalPlacesOfItsMiddles)
+{
+    const ChainResult result = Probabilistic({{.nominal = 6.123456789,
+                                               .upperDev = 0.000000003,
+                                               .lowerDev = -0.000000001,
+                                               .increasing = 1,
+                                               .law = 1,
+                                               .mean = 6.123456782},
+                                              kExactZero});
+    EXPECT_EQ(result.nominalText, "6.123456789");
+    EXPECT_EQ(result.middleText, "6.12345679");
+    EXPECT_EQ(result.groupingText, "6.123456782");
+}
+
 TEST(ProbabilisticMethod, TakesTheDeviationsFromItsLimitsWithoutRounding)
 {
     const ChainResult result = Probabilistic(WorkedLinks(), kWorkedClosing);

@@ -29,6 +29,7 @@ struct IsPaintable
     }
     bool operator()(const LinePrimitive& line) const { return (*this)(line.start) && (*this)(line.end); }
     bool operator()(const TextPrimitive& text) const { return (*this)(text.anchor); }
+    bool operator()(const HaloPrimitive& /*halo*/) const { return false; }  // no part of a layout
     bool operator()(const FillPrimitive& fill) const { return fill.corners.size() >= 3 && (*this)(fill.corners); }
     bool operator()(const OutlinePrimitive& outline) const { return (*this)(outline.points); }
     bool operator()(const RectPrimitive& rect) const

@@ -313,15 +313,7 @@ TEST_F(AddingLinks, LeaveNoLinkWithoutARecordWhenTheListFails)
                 const LONG_PTR former = ::GetWindowLongPtrW(list, GWLP_WNDPROC);
                 ::SetPropW(list, L"former", reinterpret_cast<HANDLE>(former));
                 ::SetWindowLongPtrW(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&RefuseRows));
-                try
-                {
-                    dialog->AddToList(&objects[1]);
-                    ADD_FAILURE() << "the list did not fail";
-                }
-                catch (CMemoryException* exception)
-                {
-                    exception->Delete();
-                }
+                EXPECT_NO_THROW(dialog->AddToList(&objects[1]));
                 ::SetWindowLongPtrW(list, GWLP_WNDPROC, former);
                 ::RemovePropW(list, L"former");
                 dialog->EndModal();
@@ -330,6 +322,8 @@ TEST_F(AddingLinks, LeaveNoLinkWithoutARecordWhenTheListFails)
     ASSERT_EQ(links.size(), 2U);
     ASSERT_NE(links[1].record, nullptr);
     EXPECT_EQ(links[1].record->hostObject, &objects[1]);
+    EXPECT_EQ(links[1].nominal, L"5");
+    EXPECT_EQ(Links().Rows(), 2) << "the chain row and the first link";
 }
 
 // --- how the command ends ---

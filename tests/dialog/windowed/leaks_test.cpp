@@ -185,6 +185,49 @@ TEST_F(Leaks, AreNoneWhenTheWindowGoesWhileALinkIsAdded)
     });
 }
 
+TEST_F(Leaks, AreNoneWhenTheChainGoesWhileLinksAreDeleted)
+{
+    for (const UINT command : {ID_LINK_DELETE, ID_LINK_DELETE_ALL})
+    {
+        SCOPED_TRACE(command);
+        ExpectNothingLeftBy([this, command] {
+            Renew();
+            FillChain();
+            OpenAndCancel(kNewLinkChild);
+            OpenAndCancel(kNewClosingChild);
+            ClickCell(Links(), 1, 5);
+            ASSERT_TRUE(Links().Grid().HasEditor());
+            dialog->OnNotified(NM_SETFOCUS, [this] {
+                EXPECT_EQ(Objects().size(), 2U);
+                dialog->CancelDialog();
+            });
+            Command(command);
+            EXPECT_TRUE(Objects().empty());
+            dialog->DestroyWindow();
+            dialog.reset();
+            DeleteChildren();
+        });
+    }
+}
+
+TEST_F(Leaks, AreNoneWhenTheChainGoesWhileALinkIsWrittenBack)
+{
+    ExpectNothingLeftBy([this] {
+        Renew();
+        FillChain();
+        OpenAndCancel(kNewLinkChild);
+        OpenAndCancel(kNewClosingChild);
+        FocusOnLink(0);
+        dialog->OnNotified(LVN_ITEMCHANGED, [this] { dialog->CancelDialog(); });
+        CDimParams params = Dimension(L"new", L"4", L"0.1", L"0");
+        dialog->SetCurrentFRowData(params);
+        EXPECT_TRUE(Objects().empty());
+        dialog->DestroyWindow();
+        dialog.reset();
+        DeleteChildren();
+    });
+}
+
 TEST_F(Leaks, AreTheFirstClosingRecordWhenASecondOneComes)
 {
     ExpectNothingLeftBy([this] {

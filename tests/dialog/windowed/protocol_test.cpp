@@ -1,5 +1,6 @@
 // The calling order that a host follows, from the factory to the end, with everything that passes between both sides.
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -16,13 +17,21 @@ protected:
     Protocol()
     {
         AfxGetThread()->m_pMainWnd = &host;
+        AfxSetResourceHandle(hostResources);
         for (const WPARAM code : {1, 2, 3, 30, 32, 35, 93, 107, 246})
             host.On(code, [this, code] {
+                EXPECT_EQ(AfxGetResourceHandle(), code == kDialogClosed ? hostResources : libraryResources)
+                    << "notification " << code;
                 log.push_back(std::to_string(code));
                 Answer(code);
             });
     }
-    ~Protocol() override { AfxGetThread()->m_pMainWnd = nullptr; }
+    ~Protocol() override
+    {
+        EXPECT_EQ(AfxGetResourceHandle(), hostResources);
+        AfxSetResourceHandle(formerResources);
+        AfxGetThread()->m_pMainWnd = nullptr;
+    }
 
     /// What the user is about to do, for the notifications that don't tell.
     enum class Task
@@ -108,6 +117,7 @@ protected:
         next = object;
         const LoopScript script(std::move(steps), [this] { dialog->EndModal(); });
         ::SendMessageW(dialog->m_hWnd, WM_COMMAND, command, 0);
+        EXPECT_EQ(AfxGetResourceHandle(), hostResources) << "command " << command;
     }
 
     std::vector<void*> Objects() const
@@ -122,6 +132,9 @@ protected:
 
     std::vector<std::string> TakeLog() { return std::exchange(log, {}); }
 
+    const HINSTANCE formerResources = AfxGetResourceHandle();
+    const HINSTANCE hostResources = ::GetModuleHandleW(L"framework.dll");  // any module but the library
+    const HINSTANCE libraryResources = ::GetModuleHandleW(L"ModuleSkin.dll");
     ScriptedHost host;
     std::unique_ptr<CCalcTolDlgBase> dialog;
     std::vector<std::string> log;
@@ -198,6 +211,44 @@ TEST_F(Protocol, RunsFromTheFactoryToTheEnd)
     dialog->DestroyWindow();
     dialog.reset();
     EXPECT_EQ(TakeLog(), Log{});
+}
+
+TEST_F(Protocol, LeavesTheHostItsResourcesAfterEveryCall)
+{
+    dialog.reset(CCalcTolDlgBase::CreateCalcTolDlg());
+    ASSERT_TRUE(dialog->Create(&host));
+    EXPECT_EQ(AfxGetResourceHandle(), hostResources);
+    ::SendMessageW(dialog->m_hWnd, WM_COMMAND, ID_METHOD_ANALYTIC, 0);
+    Choose(ID_LINK_ADD, Task::Add, &first, {[this] {
+               Load(Dimension(L"A1", L"10", L"0.1", L"-0.1"));
+               Click(IDC_LINK_OK);
+           }});
+    Choose(ID_CLOSING_ADD, Task::Add, &closing, {[this] {
+               LoadClosing(Dimension(L"B", L"6", L"0.15", L"-0.15"));
+               Click(IDC_CLOSING_OK);
+           }});
+    CDimParams dimension = Dimension(L"A1", L"10", L"0.2", L"-0.2");
+    CVariableParams distribution;
+    const std::pair<const char*, std::function<void()>> calls[] = {
+        {"AddToList", [&] { dialog->AddToList(&second); }},
+        {"AddCloseDimToList", [&] { dialog->AddCloseDimToList(&closing); }},
+        {"SetDlgParams", [&] { Load(dimension); }},
+        {"SetCloseDimDlgParams", [&] { LoadClosing(dimension); }},
+        {"GetDimDlgParams", [&] { dialog->GetDimDlgParams(dimension); }},
+        {"GetCloseDimDlgParams", [&] { dialog->GetCloseDimDlgParams(dimension); }},
+        {"SetCurrentFRowData", [&] { dialog->SetCurrentFRowData(dimension); }},
+        {"SetCloseFRowData", [&] { dialog->SetCloseFRowData(dimension); }},
+        {"SetVariableFRowData", [&] { dialog->SetVariableFRowData(distribution); }},
+        {"SetVariableCloseFRowData", [&] { dialog->SetVariableCloseFRowData(distribution); }},
+        {"EndModal", [&] { dialog->EndModal(); }},
+        {"CancelDialog", [&] { dialog->CancelDialog(); }},
+        {"DestroyWindow", [&] { dialog->DestroyWindow(); }},
+    };
+    for (const auto& [name, call] : calls)
+    {
+        call();
+        EXPECT_EQ(AfxGetResourceHandle(), hostResources) << name;
+    }
 }
 
 // Two dialogs, as of two drawings: each keeps its own chain, method and host.

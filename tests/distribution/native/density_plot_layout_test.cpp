@@ -57,6 +57,7 @@ struct IsPaintable
     bool operator()(const LinePrimitive& line) const { return IsNear(line.start) && IsNear(line.end); }
     bool operator()(const TextPrimitive& text) const { return IsNear(text.anchor); }
     bool operator()(const OutlinePrimitive& outline) const { return AreNear(outline.points); }
+    bool operator()(const HaloPrimitive& /*halo*/) const { return false; }  // no part of a layout
     bool operator()(const FillPrimitive& fill) const { return fill.corners.size() >= 3 && AreNear(fill.corners); }
     bool operator()(const RectPrimitive& rect) const
     {
@@ -139,6 +140,21 @@ TEST(DensityPlotLayout, RoundsTheLimitsBeforeItPrintsThem)
     const DisplayList list = LayoutDensityPlot(input);
     EXPECT_TRUE(HasLine(list, "text 340 40 left 000000 \"0.000000002\""));
     EXPECT_TRUE(HasLine(list, "text 61 40 right 000000 \"-0.000000002\""));
+}
+
+// The lower limit is rounded to -1e-9, a hundred columns from the middle of the field; unrounded it were 140.
+TEST(DensityPlotLayout, DrawsTheNormalDensityFromTheRoundedLowerLimit)
+{
+    DensityPlotInput input = Input("0.0000000014", "-0.0000000014", 1, 0);
+    input.nominalText = "0";
+    const DisplayList list = LayoutDensityPlot(input);
+    const auto outline = std::ranges::find_if(list.primitives, [](const Primitive& primitive) {
+        return std::holds_alternative<OutlinePrimitive>(primitive);
+    });
+    ASSERT_NE(outline, list.primitives.end());
+    const std::vector<PixelPoint>& points = std::get<OutlinePrimitive>(*outline).points;
+    EXPECT_EQ(points[100].y, 61) << "the peak lies between two columns";
+    EXPECT_GT(points[140].y, 100);
 }
 
 TEST(DensityPlotLayout, HasItsTextsOnWhiteInTheDefaultFont)

@@ -206,6 +206,17 @@ TEST_F(VariableEnding, IgnoresAnOkInsideTheReportOfCancel)
     EXPECT_EQ(Codes(), (std::vector<WPARAM>{kChildCancelled}));
 }
 
+TEST_F(VariableEnding, KeepsTheRecordEmptyInsideTheReportOfCancel)
+{
+    OnNotification([&](UINT) {
+        Choose(kUniform);
+        Write(IDC_VARIABLE_MEAN, L"");
+        Command(IDC_VARIABLE_REDRAW);
+    });
+    EXPECT_EQ(Run({[this] { Click(IDC_VARIABLE_CANCEL); }}), IDCANCEL);
+    EXPECT_EQ(Record(), CVariableParams{});
+}
+
 TEST_F(VariableEnding, AcceptsInTheRunAfterACancelledOne)
 {
     Run({[this] { Click(IDC_VARIABLE_CANCEL); }});

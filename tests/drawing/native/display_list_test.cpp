@@ -36,12 +36,14 @@ TEST(DisplayListText, WritesOneLineForEachPrimitiveInDrawingOrder)
                             "outline 1 2 3 4 -5 6 1 2\n");
 }
 
-TEST(DisplayListText, TellsHowFarAHaloReaches)
+TEST(DisplayListText, TellsOfHalosAndLiftedTexts)
 {
     DisplayList list;
+    list.primitives.emplace_back(HaloPrimitive{{1, 2}, 3, "A"});
     list.Text(1, 2, TextAlign::Left, "A");
-    std::get<TextPrimitive>(list.primitives[0]).halo = 3;
-    EXPECT_EQ(ToText(list), "text 1 2 left 000000 \"A\" halo 3\n");
+    std::get<TextPrimitive>(list.primitives[1]).isLifted = true;
+    EXPECT_EQ(ToText(list), "halo 1 2 3 \"A\"\n"
+                            "text 1 2 left 000000 \"A\" lifted\n");
 }
 
 TEST(DisplayListText, NamesTheAlignmentOfATextAndItsColor)

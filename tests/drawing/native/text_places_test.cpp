@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 // A letter is 10 pixels wide and 20 high, the picture 200 by 100.
 
 namespace
@@ -25,7 +27,7 @@ PixelPoint PlaceOf(int x, int y, TextAlign align, int width = 200)
     DisplayList list;
     list.Text(x, y, align, "0123456789");
     const DisplayList readable = Readable(list, width);
-    return std::get<TextPrimitive>(readable.primitives.at(0)).anchor;
+    return std::get<TextPrimitive>(readable.primitives.back()).anchor;
 }
 
 std::string ReadableText(const DisplayList& list, int height = 100)
@@ -68,7 +70,7 @@ TEST(TextPlaces, KeepTheBeginningOfATextThatIsWiderThanThePicture)
         EXPECT_EQ(PlaceOf(45, 0, align, 90), (PixelPoint{0, 0}));
 }
 
-TEST(TextPlaces, OfMovedTextsComeLastAndHaveAHalo)
+TEST(TextPlaces, OfMovedTextsComeLastAfterTheirHalos)
 {
     DisplayList list;
     list.Text(195, 0, TextAlign::Left, "AB", {255, 0, 0});
@@ -78,7 +80,8 @@ TEST(TextPlaces, OfMovedTextsComeLastAndHaveAHalo)
     EXPECT_EQ(ReadableText(list), "rect 00FF00 0 0 200 100\n"
                                   "line 10 0 10 100\n"
                                   "text 50 50 left 000000 \"C\"\n"
-                                  "text 180 0 left FF0000 \"AB\" halo 5\n");
+                                  "halo 180 0 5 \"AB\"\n"
+                                  "text 180 0 left FF0000 \"AB\" lifted\n");
     static_assert(kLine / 4 == kHalo);
 }
 
@@ -88,34 +91,73 @@ TEST(TextPlaces, AreBelowEarlierTextsThatWouldBeCovered)
     list.Text(100, 5, TextAlign::Left, "0123456789");
     list.Text(100, 5, TextAlign::Center, "0123456789");
     list.Text(80, 24, TextAlign::Left, "AB");
-    list.Text(160, 25, TextAlign::Left, "CD");
-    EXPECT_EQ(ReadableText(list), "text 100 5 left 000000 \"0123456789\"\n"
-                                  "text 160 25 left 000000 \"CD\"\n"
-                                  "text 50 25 left 000000 \"0123456789\" halo 5\n"
-                                  "text 80 45 left 000000 \"AB\" halo 5\n");
+    list.Text(190, 46, TextAlign::Left, "C");
+    EXPECT_EQ(ReadableText(list), "text 190 46 left 000000 \"C\"\n"
+                                  "halo 50 25 5 \"0123456789\"\n"
+                                  "halo 80 45 5 \"AB\"\n"
+                                  "text 100 5 left 000000 \"0123456789\" lifted\n"
+                                  "text 50 25 left 000000 \"0123456789\" lifted\n"
+                                  "text 80 45 left 000000 \"AB\" lifted\n");
 }
 
-TEST(TextPlaces, StayOverAnotherTextWithoutHaloWhereThereIsNoRoomBelow)
+TEST(TextPlaces, StayOverAnotherTextWhereThereIsNoRoomBelow)
+{
+    DisplayList list;
+    list.Text(20, 5, TextAlign::Left, "AB");
+    list.Text(25, 5, TextAlign::Left, "CD");
+    list.Text(195, 5, TextAlign::Left, "EF");
+    list.Text(195, 5, TextAlign::Left, "GH");
+    EXPECT_EQ(ReadableText(list, 44), "text 20 5 left 000000 \"AB\"\n"
+                                      "text 25 5 left 000000 \"CD\"\n"
+                                      "halo 180 5 5 \"EF\"\n"
+                                      "halo 180 5 5 \"GH\"\n"
+                                      "text 180 5 left 000000 \"EF\" lifted\n"
+                                      "text 180 5 left 000000 \"GH\" lifted\n");
+}
+
+// The first text ends where the second, moved in by 5 pixels, begins; the third ends 5 pixels before a halo.
+TEST(TextPlaces, OfTextsThatAHaloReachesComeAfterIt)
+{
+    DisplayList beside;
+    beside.Text(0, 0, TextAlign::Left, "0123456789");
+    beside.Text(105, 0, TextAlign::Left, "0123456789");
+    EXPECT_EQ(ReadableText(beside), "halo 100 0 5 \"0123456789\"\n"
+                                    "text 0 0 left 000000 \"0123456789\" lifted\n"
+                                    "text 100 0 left 000000 \"0123456789\" lifted\n");
+    for (const auto& [x, isReached] : {std::pair{155, false}, std::pair{156, true}})
+    {
+        DisplayList list;
+        list.Text(195, 0, TextAlign::Left, "AB");
+        list.Text(x, 0, TextAlign::Left, "CD");
+        EXPECT_EQ(ReadableText(list).ends_with("\"CD\" lifted\n"), isReached) << x;
+    }
+    for (const auto& [y, isReached] : {std::pair{61, true}, std::pair{60, true}, std::pair{62, false}})
+    {
+        DisplayList list;
+        list.Text(195, 41, TextAlign::Left, "AB");
+        list.Text(180, y, TextAlign::Left, "CD");
+        EXPECT_EQ(ReadableText(list).ends_with("\"CD\" lifted\n"), isReached) << y;
+    }
+}
+
+// A line through the first; the second stays over it, where there is no room below.
+TEST(TextPlaces, OfATextOverACrossedOneComeAfterTheHalo)
 {
     DisplayList list;
     list.Text(100, 5, TextAlign::Left, "AB");
     list.Text(105, 5, TextAlign::Left, "CD");
-    list.Text(195, 5, TextAlign::Left, "EF");
-    list.Text(195, 5, TextAlign::Left, "GH");
-    EXPECT_EQ(ReadableText(list, 44), "text 100 5 left 000000 \"AB\"\n"
-                                      "text 105 5 left 000000 \"CD\"\n"
-                                      "text 180 5 left 000000 \"EF\" halo 5\n"
-                                      "text 180 5 left 000000 \"GH\"\n");
+    list.Line(102, 0, 102, 44);
+    EXPECT_TRUE(ReadableText(list, 44).ends_with("text 105 5 left 000000 \"CD\" lifted\n"));
 }
 
 namespace
 {
-/// Whether a text of two letters at 50 40, 20 by 20 pixels, comes last and has a halo.
+/// Whether a text of two letters at 50 40, 20 by 20 pixels, comes last and after its halo.
 bool IsLiftedFrom(DisplayList list)
 {
     list.Text(50, 40, TextAlign::Left, "AB");
     list.Line(0, 99, 200, 99);
-    return ReadableText(list).ends_with("text 50 40 left 000000 \"AB\" halo 5\n");
+    return ReadableText(list).ends_with("halo 50 40 5 \"AB\"\ntext 50 40 left 000000 \"AB\" lifted\n");
 }
 
 bool IsLiftedFromLine(PixelPoint start, PixelPoint end)

@@ -429,6 +429,35 @@ TEST_F(GdiPainterAtTheSides, ATextBeyondTheBottomMovesToIt)
     ExpectPlaces(list, {{{100, 60 - size.cy}, m_text}});
 }
 
+TEST_F(GdiPainterAtTheSides, AMovedTextLeavesTheLettersOfItsNeighbour)
+{
+    DisplayList list;
+    list.Text(kWidth - m_extent, 5, TextAlign::Right, m_text);
+    list.Text(kWidth - m_extent + 5, 5, TextAlign::Left, m_text);
+    ExpectPlaces(list, {{{kWidth - 2 * m_extent, 5}, m_text}, {{kWidth - m_extent, 5}, m_text}});
+}
+
+// A plain text's white box would take pieces out of what is around its letters.
+TEST_F(GdiPainterAtTheSides, LiftedPlainTextsHaveNoWhiteBox)
+{
+    const SIZE size = SizeOf(m_text);
+    for (const bool isMoved : {true, false})
+    {
+        SCOPED_TRACE(isMoved);
+        WhiteCanvas canvas(kWidth, 40);
+        DisplayList list;
+        list.textLook = TextLook::PlainOnWhite;
+        list.Rect(kGreen, 0, 0, kWidth, 40);
+        list.Text(isMoved ? 5 : 100, kTop, TextAlign::Right, m_text);
+        if (!isMoved)
+            list.Line(60, 0, 60, 40);
+        Paint(canvas, list);
+        EXPECT_GT(canvas.Count(kWhitePixel), 0);
+        EXPECT_EQ(canvas.At(isMoved ? 1 : 101 - m_extent, kTop), kGreenPixel) << "a corner of the box";
+        EXPECT_LT(canvas.Count(kWhitePixel) + canvas.Count(kBlackPixel), size.cx * size.cy * 9 / 10);
+    }
+}
+
 TEST_F(GdiPainterAtTheSides, AMovedTextKeepsItsColour)
 {
     WhiteCanvas canvas(kWidth, 40);

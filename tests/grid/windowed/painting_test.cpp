@@ -412,6 +412,25 @@ TEST_F(GridPainting, CellsFollowScrollingBothWays)
     EXPECT_EQ(PixelAt(20, cell.CenterPoint().y), highlight);
 }
 
+// The list, one row shorter, scrolls back by one.
+TEST_F(GridPainting, RowsAreWhereTheyBelongAfterTheLastOfAScrolledListIsDeleted)
+{
+    RowKey last = nullptr;
+    for (int row = 0; row < 40; ++row)
+        last = window.AddTop(row % 3 == 0 ? L"VVVVV" : L"W");
+    grid.EnsureVisible(grid.FindRow(last)->ListIndex(), FALSE);
+    Paint();
+    const int firstSeen = grid.GetTopIndex();
+    ASSERT_GT(firstSeen, 0);
+    grid.DeleteRow(last);
+    ASSERT_LT(grid.GetTopIndex(), firstSeen);
+    Paint();
+    const Pixels shown = ShownPixels(grid.GetSafeHwnd());
+    grid.Invalidate();
+    Paint();
+    EXPECT_EQ(DifferentPixels(shown, ShownPixels(grid.GetSafeHwnd())), 0);
+}
+
 TEST_F(GridPainting, TextStandsInOneLineHalfwayBetweenTheEdges)
 {
     grid.SetCellText(u, 2, L"I");

@@ -293,6 +293,38 @@ TYPED_TEST(FieldBoxEvents, TakeTheEntrysTextOfASelectionChangeNotTheEdits)
                     }});
 }
 
+// The texts of a load that ended early are not those of the record.
+TYPED_TEST(FieldBoxEvents, DoNotAskWhenTheListClosesAfterALoadThatEndedEarly)
+{
+    CDimParams known = FittedDimension();
+    known.dimKind = 0;
+    this->RunLoaded(known, {[this] {
+                        {
+                            const GdiExhaustion exhaustion;
+                            this->Load(FreeDimension());
+                        }
+                        ASSERT_EQ(this->Text(TypeParam::kField), L"zz");
+                        this->Calls().clear();
+                        this->Notify(CBN_CLOSEUP);
+                        EXPECT_TRUE(this->Calls().empty());
+                        EXPECT_EQ(this->Record().tolField, L"H7");
+                        EXPECT_EQ(this->Text(TypeParam::kUpper), L"0.2");
+                    }});
+}
+
+TYPED_TEST(FieldBoxEvents, DoNotAskWhenTheListClosesOnADimensionWithoutTolerance)
+{
+    CDimParams params = FreeDimension();
+    params.dimKind = 2;
+    this->RunLoaded(params, {[this] {
+                        this->Calls().clear();
+                        this->Notify(CBN_CLOSEUP);
+                        EXPECT_TRUE(this->Calls().empty());
+                        EXPECT_TRUE(this->Record().tolField.IsEmpty());
+                        EXPECT_FALSE(this->IsEnabled(TypeParam::kUpper));
+                    }});
+}
+
 TYPED_TEST(FieldBoxEvents, ShowOnlyTheListedFieldsWithTheFilter)
 {
     this->RunLoaded(FittedDimension(), {[this] {

@@ -1,5 +1,7 @@
 #include "tolerance/tol_box.h"
 
+#include <string>
+
 #include <gtest/gtest.h>
 
 #include "box_in_window.h"
@@ -26,12 +28,18 @@ public:
 
     int drawn = 0;
     int leftToTheSystem = 0;
+    std::wstring ownText;  // of every entry, when there is one
 
 protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         if (message == WM_DRAWITEM)
             ++leftToTheSystem;
+        if (message == CBEM_GETITEMW && !ownText.empty())
+        {
+            reinterpret_cast<COMBOBOXEXITEMW*>(lParam)->pszText = ownText.data();
+            return TRUE;
+        }
         return CTolBox::DefWindowProc(message, wParam, lParam);
     }
 };
@@ -280,6 +288,15 @@ TEST_F(TolBox, ReadsTheCodeOfAnEntry)
     EXPECT_EQ(m_box->Code(0), L"H6");
     EXPECT_EQ(m_box->Code(1), L"H7");
     EXPECT_EQ(m_box->Code(2), L"");
+}
+
+// The control may name its own text instead of filling the buffer that it is given.
+TEST_F(TolBox, ReadsACodeThatTheControlKeepsElsewhere)
+{
+    m_box->ownText = L"js7";
+    EXPECT_EQ(m_box->Code(0), L"js7");
+    m_box->ownText.assign(300, L'x');
+    EXPECT_EQ(m_box->Code(0).GetLength(), 255);
 }
 
 TEST_F(TolBox, ReadsAtMost255CharactersOfACode)
