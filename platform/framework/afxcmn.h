@@ -3,7 +3,6 @@
 /// The common controls.
 
 #include "afxwin.h"
-#include "controls/header_ctrl.h"
 #include "controls/image_list.h"
 #include "controls/list_ctrl.h"
 #include "controls/slider_ctrl.h"

@@ -9,7 +9,6 @@
 #include "controls/button.h"
 #include "controls/combo_box.h"
 #include "controls/edit.h"
-#include "controls/list_box.h"
 #include "controls/scroll_bar.h"
 #include "controls/static.h"
 #include "graphics/dc.h"

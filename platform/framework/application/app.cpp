@@ -103,26 +103,6 @@ CWinApp::~CWinApp()
     application = nullptr;
 }
 
-HICON CWinApp::LoadIcon(LPCWSTR name) const
-{
-    return ::LoadIconW(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
-}
-
-HICON CWinApp::LoadIcon(UINT id) const
-{
-    return LoadIcon(MAKEINTRESOURCEW(id));
-}
-
-HCURSOR CWinApp::LoadCursor(LPCWSTR name) const
-{
-    return ::LoadCursorW(AfxFindResourceHandle(name, RT_GROUP_CURSOR), name);
-}
-
-HCURSOR CWinApp::LoadCursor(UINT id) const
-{
-    return LoadCursor(MAKEINTRESOURCEW(id));
-}
-
 CWinApp* AfxGetApp()
 {
     return application;

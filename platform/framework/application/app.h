@@ -38,7 +38,6 @@ public:
     /// @return           the message's result
     virtual LRESULT ProcessWndProcException(CException* exception, const MSG* message);
 
-    CWnd* GetMainWnd() const { return m_pMainWnd; }
     const MSG* GetCurrentMessage() const { return &m_currentMessage; }
 
 private:
@@ -59,12 +58,6 @@ public:
     LPWSTR m_lpCmdLine = nullptr;  ///< without the program's name
     int m_nCmdShow = SW_SHOWNORMAL;
     LPCWSTR m_pszAppName = nullptr;
-
-    HICON LoadIcon(LPCWSTR name) const;
-    HICON LoadIcon(UINT id) const;
-    HCURSOR LoadCursor(LPCWSTR name) const;
-    HCURSOR LoadCursor(UINT id) const;
-    HCURSOR LoadStandardCursor(LPCWSTR name) const { return ::LoadCursorW(nullptr, name); }
 
 private:
     CString m_appName;

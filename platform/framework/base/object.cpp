@@ -1,9 +1,5 @@
 #include "base/object.h"
 
-#include <cstdarg>
-#include <cwchar>
-#include <iterator>
-
 CRuntimeClass CObject::classCObject = {"CObject", static_cast<int>(sizeof(CObject)), nullptr, nullptr, nullptr};
 
 static const AFX_CLASSINIT registrationOfCObject(RUNTIME_CLASS(CObject));
@@ -18,14 +14,4 @@ CRuntimeClass* CObject::GetRuntimeClass() const
 BOOL CObject::IsKindOf(const CRuntimeClass* runtimeClass) const
 {
     return GetRuntimeClass()->IsDerivedFrom(runtimeClass);
-}
-
-void AfxTrace(LPCWSTR format, ...)
-{
-    wchar_t line[512] = {};
-    va_list arguments;
-    va_start(arguments, format);
-    _vsnwprintf(line, std::size(line) - 1, format, arguments);
-    va_end(arguments);
-    ::OutputDebugStringW(line);
 }

@@ -21,18 +21,6 @@ void CComboBox::DrawItem(LPDRAWITEMSTRUCT) {}
 
 void CComboBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
 
-void CComboBox::GetLBText(int index, CString& text) const
-{
-    const int length = GetLBTextLen(index);
-    if (length == CB_ERR)
-    {
-        text.Empty();
-        return;
-    }
-    SendMessage(CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.GetBuffer(length)));
-    text.ReleaseBuffer();
-}
-
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     switch (message)

@@ -21,19 +21,3 @@ CComboBox* CComboBoxEx::GetComboBoxCtrl() const
 {
     return static_cast<CComboBox*>(FromHandle(reinterpret_cast<HWND>(SendMessage(CBEM_GETCOMBOCONTROL))));
 }
-
-CEdit* CComboBoxEx::GetEditCtrl() const
-{
-    return static_cast<CEdit*>(FromHandle(reinterpret_cast<HWND>(SendMessage(CBEM_GETEDITCONTROL))));
-}
-
-CImageList* CComboBoxEx::SetImageList(CImageList* images)
-{
-    return CImageList::FromHandle(
-        reinterpret_cast<HIMAGELIST>(SendMessage(CBEM_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(HandleOf(images)))));
-}
-
-CImageList* CComboBoxEx::GetImageList() const
-{
-    return CImageList::FromHandle(reinterpret_cast<HIMAGELIST>(SendMessage(CBEM_GETIMAGELIST)));
-}

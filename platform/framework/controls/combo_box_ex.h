@@ -1,8 +1,6 @@
 #pragma once
 
 #include "controls/combo_box.h"
-#include "controls/edit.h"
-#include "controls/image_list.h"
 
 /// The extended combo box: a window that holds a combo box, which sends its drawing requests to this window.
 class FRAMEWORK_API CComboBoxEx : public CComboBox
@@ -21,28 +19,17 @@ public:
     {
         return static_cast<BOOL>(SendMessage(CBEM_GETITEM, 0, reinterpret_cast<LPARAM>(item)));
     }
-    BOOL SetItem(const COMBOBOXEXITEM* item)
-    {
-        return static_cast<BOOL>(SendMessage(CBEM_SETITEM, 0, reinterpret_cast<LPARAM>(item)));
-    }
     /// @return  the index; -1 on failure. Item -1 appends.
     int InsertItem(const COMBOBOXEXITEM* item)
     {
         return static_cast<int>(SendMessage(CBEM_INSERTITEM, 0, reinterpret_cast<LPARAM>(item)));
     }
-    /// @return  the number of entries left
-    int DeleteItem(int index) { return static_cast<int>(SendMessage(CBEM_DELETEITEM, static_cast<WPARAM>(index))); }
 
     CComboBox* GetComboBoxCtrl() const;
-    /// The edit field; null in a pure drop-down list.
-    CEdit* GetEditCtrl() const;
-    BOOL HasEditChanged() const { return static_cast<BOOL>(SendMessage(CBEM_HASEDITCHANGED)); }
     DWORD GetExtendedStyle() const { return static_cast<DWORD>(SendMessage(CBEM_GETEXTENDEDSTYLE)); }
     /// @param mask  the bits to change; 0 for all
     DWORD SetExtendedStyle(DWORD mask, DWORD style)
     {
         return static_cast<DWORD>(SendMessage(CBEM_SETEXTENDEDSTYLE, mask, static_cast<LPARAM>(style)));
     }
-    CImageList* SetImageList(CImageList* images);
-    CImageList* GetImageList() const;
 };

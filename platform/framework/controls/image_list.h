@@ -44,9 +44,6 @@ public:
     int Add(CBitmap* bitmap, COLORREF mask);
     int Add(CBitmap* bitmap, CBitmap* mask);
     int Add(HICON icon) { return ::ImageList_ReplaceIcon(m_hImageList, -1, icon); }
-    BOOL Remove(int index) { return ::ImageList_Remove(m_hImageList, index); }
-    COLORREF SetBkColor(COLORREF colour) { return ::ImageList_SetBkColor(m_hImageList, colour); }
-    BOOL GetImageInfo(int index, IMAGEINFO* info) const { return ::ImageList_GetImageInfo(m_hImageList, index, info); }
     /// @param style  ILD_ constants
     BOOL Draw(CDC* dc, int index, POINT point, UINT style);
 };

@@ -17,20 +17,6 @@ BEGIN_MESSAGE_MAP(CListCtrl, CWnd)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
-namespace
-{
-// A position is the row's index plus 1, so that row 0 differs from "none".
-POSITION PositionOf(int index)
-{
-    return reinterpret_cast<POSITION>(static_cast<INT_PTR>(index) + 1);
-}
-
-int IndexOf(POSITION position)
-{
-    return static_cast<int>(reinterpret_cast<INT_PTR>(position) - 1);
-}
-}  // namespace
-
 BOOL CListCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
     return CWnd::Create(WC_LISTVIEW, nullptr, style, rect, parent, id);
@@ -78,14 +64,8 @@ int CListCtrl::InsertColumn(int column, LPCWSTR heading, int format, int width, 
 
 BOOL CListCtrl::GetColumnOrderArray(LPINT order, int count) const
 {
-    const CHeaderCtrl* header = GetHeaderCtrl();
-    const int columns = count == -1 && header != nullptr ? header->GetItemCount() : count;
+    const int columns = count == -1 ? Header_GetItemCount(ListView_GetHeader(m_hWnd)) : count;
     return ListView_GetColumnOrderArray(m_hWnd, columns, order);
-}
-
-CHeaderCtrl* CListCtrl::GetHeaderCtrl() const
-{
-    return static_cast<CHeaderCtrl*>(FromHandle(ListView_GetHeader(m_hWnd)));
 }
 
 int CListCtrl::InsertItem(int index, LPCWSTR text)
@@ -105,21 +85,6 @@ int CListCtrl::InsertItem(int index, LPCWSTR text, int image)
     item.pszText = const_cast<LPWSTR>(text);  // only read
     item.iImage = image;
     return InsertItem(&item);
-}
-
-BOOL CListCtrl::SetItem(int index, int subItem, UINT mask, LPCWSTR text, int image, UINT state, UINT stateMask,
-                        LPARAM data)
-{
-    LVITEM item = {};
-    item.mask = mask;
-    item.iItem = index;
-    item.iSubItem = subItem;
-    item.pszText = const_cast<LPWSTR>(text);  // only read
-    item.iImage = image;
-    item.state = state;
-    item.stateMask = stateMask;
-    item.lParam = data;
-    return SetItem(&item);
 }
 
 int CListCtrl::GetItemText(int index, int subItem, LPWSTR buffer, int capacity) const
@@ -162,54 +127,10 @@ DWORD_PTR CListCtrl::GetItemData(int index) const
     return static_cast<DWORD_PTR>(item.lParam);
 }
 
-BOOL CListCtrl::SetItemData(int index, DWORD_PTR data)
-{
-    return SetItem(index, 0, LVIF_PARAM, nullptr, 0, 0, 0, static_cast<LPARAM>(data));
-}
-
-BOOL CListCtrl::SetItemState(int index, UINT state, UINT mask)
-{
-    LVITEM item = {};
-    item.state = state;
-    item.stateMask = mask;
-    return static_cast<BOOL>(
-        SendMessage(LVM_SETITEMSTATE, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item)));
-}
-
-POSITION CListCtrl::GetFirstSelectedItemPosition() const
-{
-    return PositionOf(GetNextItem(-1, LVNI_SELECTED));
-}
-
-int CListCtrl::GetNextSelectedItem(POSITION& position) const
-{
-    const int index = IndexOf(position);
-    position = PositionOf(GetNextItem(index, LVNI_SELECTED));
-    return index;
-}
-
 BOOL CListCtrl::GetItemRect(int index, LPRECT rect, UINT code) const
 {
     rect->left = static_cast<LONG>(code);
     return static_cast<BOOL>(SendMessage(LVM_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(rect)));
-}
-
-BOOL CListCtrl::GetSubItemRect(int index, int subItem, int area, CRect& rect) const
-{
-    rect.left = area;
-    rect.top = subItem;
-    return static_cast<BOOL>(SendMessage(LVM_GETSUBITEMRECT, static_cast<WPARAM>(index),
-                                         reinterpret_cast<LPARAM>(static_cast<LPRECT>(&rect))));
-}
-
-int CListCtrl::HitTest(CPoint point, UINT* flags) const
-{
-    LVHITTESTINFO info = {};
-    info.pt = point;
-    const int index = HitTest(&info);
-    if (flags != nullptr)
-        *flags = info.flags;
-    return index;
 }
 
 CImageList* CListCtrl::SetImageList(CImageList* images, int kind)

@@ -11,8 +11,3 @@ const ControlClass scrollBarClass(WC_SCROLLBAR, RUNTIME_CLASS(CScrollBar));
 
 CScrollBar::CScrollBar() = default;
 CScrollBar::~CScrollBar() = default;
-
-BOOL CScrollBar::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
-{
-    return CWnd::Create(WC_SCROLLBAR, nullptr, style, rect, parent, id);
-}

@@ -10,6 +10,4 @@ class FRAMEWORK_API CScrollBar : public CWnd
 public:
     CScrollBar();
     ~CScrollBar() override;
-
-    BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
 };

@@ -17,14 +17,8 @@ BOOL CSliderCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
     return CWnd::Create(TRACKBAR_CLASS, nullptr, style, rect, parent, id);
 }
 
-void CSliderCtrl::GetRange(int& lowest, int& highest) const
-{
-    lowest = GetRangeMin();
-    highest = GetRangeMax();
-}
-
 void CSliderCtrl::SetRange(int lowest, int highest, BOOL redraw)
 {
-    SetRangeMin(lowest, FALSE);
-    SetRangeMax(highest, redraw);
+    SendMessage(TBM_SETRANGEMIN, FALSE, lowest);
+    SendMessage(TBM_SETRANGEMAX, static_cast<WPARAM>(redraw), highest);
 }

@@ -6,7 +6,6 @@
 
 IMPLEMENT_DYNCREATE(CDC, CObject)
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
-IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)
 
 namespace
@@ -55,33 +54,9 @@ BOOL CDC::DeleteDC()
     return dc != nullptr && ::DeleteDC(dc);
 }
 
-CWnd* CDC::GetWindow() const
-{
-    return CWnd::FromHandle(::WindowFromDC(m_hDC));
-}
-
 CGdiObject* CDC::Select(CGdiObject* object)
 {
     return CGdiObject::FromHandle(::SelectObject(m_hDC, HandleOf(object)));
-}
-
-CGdiObject* CDC::SelectStockObject(int index)
-{
-    return CGdiObject::FromHandle(::SelectObject(m_hDC, ::GetStockObject(index)));
-}
-
-CPoint CDC::SetViewportOrg(int x, int y)
-{
-    CPoint former;
-    ::SetViewportOrgEx(m_hDC, x, y, &former);
-    return former;
-}
-
-CPoint CDC::SetWindowOrg(int x, int y)
-{
-    CPoint former;
-    ::SetWindowOrgEx(m_hDC, x, y, &former);
-    return former;
 }
 
 CPoint CDC::MoveTo(int x, int y)
@@ -105,16 +80,6 @@ void CDC::FillSolidRect(int x, int y, int width, int height, COLORREF colour)
     FillSolidRect(&rect, colour);
 }
 
-void CDC::Draw3dRect(LPCRECT rect, COLORREF topLeft, COLORREF bottomRight)
-{
-    const int width = rect->right - rect->left;
-    const int height = rect->bottom - rect->top;
-    FillSolidRect(rect->left, rect->top, width - 1, 1, topLeft);
-    FillSolidRect(rect->left, rect->top, 1, height - 1, topLeft);
-    FillSolidRect(rect->right - 1, rect->top, 1, height, bottomRight);
-    FillSolidRect(rect->left, rect->bottom - 1, width, 1, bottomRight);
-}
-
 CSize CDC::GetTextExtent(LPCWSTR text, int length) const
 {
     CSize extent;
@@ -129,17 +94,6 @@ CClientDC::CClientDC(CWnd* wnd) : m_window(HandleOf(wnd))
 }
 
 CClientDC::~CClientDC()
-{
-    ::ReleaseDC(m_window, Detach());
-}
-
-CWindowDC::CWindowDC(CWnd* wnd) : m_window(HandleOf(wnd))
-{
-    if (!Attach(::GetWindowDC(m_window)))
-        AfxThrowResourceException();
-}
-
-CWindowDC::~CWindowDC()
 {
     ::ReleaseDC(m_window, Detach());
 }

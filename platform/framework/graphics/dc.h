@@ -2,8 +2,6 @@
 
 #include "graphics/gdi_object.h"
 
-class CWnd;
-
 /// A device context, deleted with this object. FromHandle makes temporary objects, which delete nothing, until the
 /// thread is idle.
 ///
@@ -27,13 +25,9 @@ public:
 
     BOOL CreateCompatibleDC(CDC* dc) { return Attach(::CreateCompatibleDC(dc == nullptr ? nullptr : dc->m_hDC)); }
     BOOL DeleteDC();
-    int SaveDC() { return ::SaveDC(m_hDC); }
-    BOOL RestoreDC(int saved) { return ::RestoreDC(m_hDC, saved); }
     int GetDeviceCaps(int index) const { return ::GetDeviceCaps(m_hDC, index); }
-    CWnd* GetWindow() const;
 
     // selected objects
-    CGdiObject* SelectStockObject(int index);
     CPen* SelectObject(CPen* pen) { return static_cast<CPen*>(Select(pen)); }
     CBrush* SelectObject(CBrush* brush) { return static_cast<CBrush*>(Select(brush)); }
     CFont* SelectObject(CFont* font) { return static_cast<CFont*>(Select(font)); }
@@ -42,29 +36,15 @@ public:
     int SelectObject(CRgn* region) { return ::SelectClipRgn(m_hDC, region == nullptr ? nullptr : HRGN(*region)); }
     /// As the other kinds; for what was kept as a plain graphics object.
     CGdiObject* SelectObject(CGdiObject* object) { return Select(object); }
-    CPen* GetCurrentPen() const { return CPen::FromHandle(static_cast<HPEN>(Current(OBJ_PEN))); }
-    CBrush* GetCurrentBrush() const { return CBrush::FromHandle(static_cast<HBRUSH>(Current(OBJ_BRUSH))); }
-    CFont* GetCurrentFont() const { return CFont::FromHandle(static_cast<HFONT>(Current(OBJ_FONT))); }
-    CBitmap* GetCurrentBitmap() const { return CBitmap::FromHandle(static_cast<HBITMAP>(Current(OBJ_BITMAP))); }
 
     // colours and modes
     COLORREF SetBkColor(COLORREF colour) { return ::SetBkColor(m_hDC, colour); }
     COLORREF GetBkColor() const { return ::GetBkColor(m_hDC); }
     COLORREF SetTextColor(COLORREF colour) { return ::SetTextColor(m_hDC, colour); }
-    COLORREF GetTextColor() const { return ::GetTextColor(m_hDC); }
     int SetBkMode(int mode) { return ::SetBkMode(m_hDC, mode); }
-    int GetBkMode() const { return ::GetBkMode(m_hDC); }
-    int SetROP2(int mode) { return ::SetROP2(m_hDC, mode); }
-    int SetPolyFillMode(int mode) { return ::SetPolyFillMode(m_hDC, mode); }
     UINT SetTextAlign(UINT flags) { return ::SetTextAlign(m_hDC, flags); }
-    UINT GetTextAlign() const { return ::GetTextAlign(m_hDC); }
-    int SetMapMode(int mode) { return ::SetMapMode(m_hDC, mode); }
-    CPoint SetViewportOrg(int x, int y);
-    CPoint SetWindowOrg(int x, int y);
 
     // clipping
-    int GetClipBox(LPRECT rect) const { return ::GetClipBox(m_hDC, rect); }
-    int SelectClipRgn(CRgn* region) { return SelectObject(region); }
     int IntersectClipRect(LPCRECT rect)
     {
         return ::IntersectClipRect(m_hDC, rect->left, rect->top, rect->right, rect->bottom);
@@ -73,7 +53,6 @@ public:
     {
         return ::ExcludeClipRect(m_hDC, rect->left, rect->top, rect->right, rect->bottom);
     }
-    BOOL RectVisible(LPCRECT rect) const { return ::RectVisible(m_hDC, rect); }
 
     // lines and areas
     CPoint MoveTo(int x, int y);
@@ -82,24 +61,12 @@ public:
     BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
     BOOL Polyline(const POINT* points, int count) { return ::Polyline(m_hDC, points, count); }
     BOOL Polygon(const POINT* points, int count) { return ::Polygon(m_hDC, points, count); }
-    BOOL Rectangle(int left, int top, int right, int bottom) { return ::Rectangle(m_hDC, left, top, right, bottom); }
-    BOOL Rectangle(LPCRECT rect) { return Rectangle(rect->left, rect->top, rect->right, rect->bottom); }
-    BOOL Ellipse(int left, int top, int right, int bottom) { return ::Ellipse(m_hDC, left, top, right, bottom); }
-    BOOL Ellipse(LPCRECT rect) { return Ellipse(rect->left, rect->top, rect->right, rect->bottom); }
-    BOOL Arc(LPCRECT rect, POINT start, POINT end)
-    {
-        return ::Arc(m_hDC, rect->left, rect->top, rect->right, rect->bottom, start.x, start.y, end.x, end.y);
-    }
     void FillRect(LPCRECT rect, CBrush* brush) { ::FillRect(m_hDC, rect, *brush); }
     void FillSolidRect(LPCRECT rect, COLORREF colour);
     void FillSolidRect(int x, int y, int width, int height, COLORREF colour);
-    void FrameRect(LPCRECT rect, CBrush* brush) { ::FrameRect(m_hDC, rect, *brush); }
-    void InvertRect(LPCRECT rect) { ::InvertRect(m_hDC, rect); }
     BOOL FillRgn(CRgn* region, CBrush* brush) { return ::FillRgn(m_hDC, *region, *brush); }
     void DrawFocusRect(LPCRECT rect) { ::DrawFocusRect(m_hDC, rect); }
     BOOL DrawFrameControl(LPRECT rect, UINT type, UINT state) { return ::DrawFrameControl(m_hDC, rect, type, state); }
-    BOOL DrawEdge(LPRECT rect, UINT edge, UINT flags) { return ::DrawEdge(m_hDC, rect, edge, flags); }
-    void Draw3dRect(LPCRECT rect, COLORREF topLeft, COLORREF bottomRight);
     COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
     COLORREF GetPixel(POINT point) const { return GetPixel(point.x, point.y); }
     COLORREF SetPixel(int x, int y, COLORREF colour) { return ::SetPixel(m_hDC, x, y, colour); }
@@ -109,16 +76,6 @@ public:
     {
         return ::BitBlt(m_hDC, x, y, width, height, source == nullptr ? nullptr : source->m_hDC, sourceX, sourceY,
                         operation);
-    }
-    BOOL StretchBlt(int x, int y, int width, int height, CDC* source, int sourceX, int sourceY, int sourceWidth,
-                    int sourceHeight, DWORD operation)
-    {
-        return ::StretchBlt(m_hDC, x, y, width, height, source == nullptr ? nullptr : source->m_hDC, sourceX, sourceY,
-                            sourceWidth, sourceHeight, operation);
-    }
-    BOOL PatBlt(int x, int y, int width, int height, DWORD operation)
-    {
-        return ::PatBlt(m_hDC, x, y, width, height, operation);
     }
 
     // text
@@ -146,5 +103,4 @@ public:
 
 private:
     CGdiObject* Select(CGdiObject* object);
-    HGDIOBJ Current(UINT kind) const { return ::GetCurrentObject(m_hDC, kind); }
 };

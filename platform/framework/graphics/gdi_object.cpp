@@ -98,14 +98,6 @@ CBrush::CBrush(COLORREF colour)
 CFont::CFont() = default;
 CFont::~CFont() = default;
 
-BOOL CFont::CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic, BYTE underline,
-                       BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision, BYTE quality,
-                       BYTE pitchAndFamily, LPCWSTR face)
-{
-    return Attach(::CreateFontW(height, width, escapement, orientation, weight, italic, underline, strikeOut, charSet,
-                                outPrecision, clipPrecision, quality, pitchAndFamily, face));
-}
-
 CBitmap::CBitmap() = default;
 CBitmap::~CBitmap() = default;
 

@@ -21,7 +21,6 @@ public:
     HGDIOBJ Detach();
     BOOL DeleteObject();
     int GetObject(int size, LPVOID buffer) const { return ::GetObjectW(m_hObject, size, buffer); }
-    BOOL CreateStockObject(int index) { return Attach(::GetStockObject(index)); }
 };
 
 class FRAMEWORK_API CPen : public CGdiObject
@@ -52,8 +51,6 @@ public:
     operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
     static CBrush* FromHandle(HBRUSH brush) { return static_cast<CBrush*>(CGdiObject::FromHandle(brush)); }
     BOOL CreateSolidBrush(COLORREF colour) { return Attach(::CreateSolidBrush(colour)); }
-    BOOL CreateHatchBrush(int style, COLORREF colour) { return Attach(::CreateHatchBrush(style, colour)); }
-    BOOL CreateSysColorBrush(int index) { return Attach(::GetSysColorBrush(index)); }
 };
 
 class FRAMEWORK_API CFont : public CGdiObject
@@ -67,9 +64,6 @@ public:
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
     static CFont* FromHandle(HFONT font) { return static_cast<CFont*>(CGdiObject::FromHandle(font)); }
     BOOL CreateFontIndirect(const LOGFONT* description) { return Attach(::CreateFontIndirectW(description)); }
-    BOOL CreateFont(int height, int width, int escapement, int orientation, int weight, BYTE italic, BYTE underline,
-                    BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision, BYTE quality,
-                    BYTE pitchAndFamily, LPCWSTR face);
     int GetLogFont(LOGFONT* description) const { return GetObject(sizeof(LOGFONT), description); }
 };
 
@@ -87,10 +81,6 @@ public:
     BOOL LoadBitmap(UINT id) { return LoadBitmap(MAKEINTRESOURCEW(id)); }
     BOOL LoadBitmap(LPCWSTR name);
     BOOL CreateCompatibleBitmap(class CDC* dc, int width, int height);
-    BOOL CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, const void* bits)
-    {
-        return Attach(::CreateBitmap(width, height, planes, bitsPerPixel, bits));
-    }
     int GetBitmap(BITMAP* description) const { return GetObject(sizeof(BITMAP), description); }
 };
 
@@ -104,20 +94,9 @@ public:
 
     operator HRGN() const { return static_cast<HRGN>(m_hObject); }
     static CRgn* FromHandle(HRGN region) { return static_cast<CRgn*>(CGdiObject::FromHandle(region)); }
-    BOOL CreateRectRgn(int left, int top, int right, int bottom)
-    {
-        return Attach(::CreateRectRgn(left, top, right, bottom));
-    }
-    BOOL CreateRectRgnIndirect(LPCRECT rect) { return Attach(::CreateRectRgnIndirect(rect)); }
     BOOL CreatePolygonRgn(const POINT* points, int count, int mode)
     {
         return Attach(::CreatePolygonRgn(points, count, mode));
-    }
-    BOOL PtInRegion(POINT point) const { return ::PtInRegion(*this, point.x, point.y); }
-    int GetRgnBox(LPRECT box) const { return ::GetRgnBox(*this, box); }
-    int CombineRgn(const CRgn* first, const CRgn* second, int mode)
-    {
-        return ::CombineRgn(*this, *first, second == nullptr ? nullptr : static_cast<HRGN>(*second), mode);
     }
 };
 

@@ -22,7 +22,6 @@ public:
     BOOL Attach(HMENU menu);
     HMENU Detach();
 
-    BOOL CreateMenu() { return Attach(::CreateMenu()); }
     BOOL CreatePopupMenu() { return Attach(::CreatePopupMenu()); }
     /// From the current resource module.
     BOOL LoadMenu(UINT id) { return LoadMenu(MAKEINTRESOURCEW(id)); }
@@ -33,25 +32,14 @@ public:
     {
         return ::AppendMenuW(m_hMenu, flags, idOrPopup, text);
     }
-    BOOL DeleteMenu(UINT item, UINT flags) { return ::DeleteMenu(m_hMenu, item, flags); }
-    BOOL RemoveMenu(UINT item, UINT flags) { return ::RemoveMenu(m_hMenu, item, flags); }
     /// @return  the former state; (UINT)-1 when there is no such item
     UINT EnableMenuItem(UINT item, UINT flags) { return static_cast<UINT>(::EnableMenuItem(m_hMenu, item, flags)); }
     UINT CheckMenuItem(UINT item, UINT flags) { return ::CheckMenuItem(m_hMenu, item, flags); }
-    BOOL CheckMenuRadioItem(UINT first, UINT last, UINT item, UINT flags)
-    {
-        return ::CheckMenuRadioItem(m_hMenu, first, last, item, flags);
-    }
     UINT GetMenuState(UINT item, UINT flags) const { return ::GetMenuState(m_hMenu, item, flags); }
     UINT GetMenuItemCount() const { return static_cast<UINT>(::GetMenuItemCount(m_hMenu)); }
-    UINT GetMenuItemID(int position) const { return ::GetMenuItemID(m_hMenu, position); }
     int GetMenuString(UINT item, CString& text, UINT flags) const;
     /// The pop-up at that position; null when there is none.
     CMenu* GetSubMenu(int position) const;
-    BOOL SetDefaultItem(UINT item, BOOL byPosition = FALSE)
-    {
-        return ::SetMenuDefaultItem(m_hMenu, item, static_cast<UINT>(byPosition));
-    }
     /// @param owner  gets the command
     /// @return       as ::TrackPopupMenu
     BOOL TrackPopupMenu(UINT flags, int x, int y, CWnd* owner, LPCRECT keepOpen = nullptr);

@@ -4,7 +4,7 @@
 
 class CWnd;
 
-/// The client area of a window, or of the screen for a null window, until the end of the object. All three raise
+/// The client area of a window, or of the screen for a null window, until the end of the object. Both raise
 /// CResourceException when Windows has no context to give.
 class FRAMEWORK_API CClientDC : public CDC
 {
@@ -13,19 +13,6 @@ class FRAMEWORK_API CClientDC : public CDC
 public:
     explicit CClientDC(CWnd* wnd);
     ~CClientDC() override;
-
-private:
-    HWND m_window;
-};
-
-/// A window with its frame.
-class FRAMEWORK_API CWindowDC : public CDC
-{
-    DECLARE_DYNAMIC(CWindowDC)
-
-public:
-    explicit CWindowDC(CWnd* wnd);
-    ~CWindowDC() override;
 
 private:
     HWND m_window;

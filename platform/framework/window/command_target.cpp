@@ -44,7 +44,7 @@ BOOL CCmdTarget::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* ha
         return TRUE;
     }
     const auto* notify = static_cast<const AFX_NOTIFY*>(extra);
-    HandlerCall call = {message, id, notify == nullptr ? 0 : reinterpret_cast<LPARAM>(notify->pNMHDR), 0};
+    HandlerCall call = {id, notify == nullptr ? 0 : reinterpret_cast<LPARAM>(notify->pNMHDR), 0};
     entry->pfn(*this, call);
     if (notify != nullptr)
         *notify->pResult = call.result;

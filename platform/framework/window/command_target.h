@@ -10,7 +10,6 @@ class CCmdTarget;
 /// What a message-map entry's handler is called with, and what it answers.
 struct HandlerCall
 {
-    UINT message;
     WPARAM wParam;  ///< for a command: its ID
     LPARAM lParam;  ///< for a notification: its NMHDR
     LRESULT result;

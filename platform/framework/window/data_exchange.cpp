@@ -26,15 +26,6 @@ void DDX_Control(CDataExchange* exchange, int id, CWnd& control)
         AfxThrowNotSupportedException();
 }
 
-void DDX_Text(CDataExchange* exchange, int id, CString& text)
-{
-    exchange->PrepareCtrl(id);
-    if (exchange->m_bSaveAndValidate)
-        exchange->m_pDlgWnd->GetDlgItemText(id, text);
-    else
-        exchange->m_pDlgWnd->SetDlgItemText(id, text);
-}
-
 void CWnd::DoDataExchange(CDataExchange*) {}
 
 BOOL CWnd::UpdateData(BOOL saveAndValidate)

@@ -19,5 +19,3 @@ public:
 
 /// Binds a control of the dialog to a member, once: the member's window is the control from then on.
 FRAMEWORK_API void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
-/// The control's window text.
-FRAMEWORK_API void DDX_Text(CDataExchange* exchange, int id, CString& text);

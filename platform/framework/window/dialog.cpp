@@ -262,27 +262,7 @@ BOOL CDialog::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handl
     return AfxGetThread()->OnCmdMsg(id, code, extra, handlerInfo);
 }
 
-void CDialog::NextDlgCtrl() const
-{
-    SendMessage(WM_NEXTDLGCTL, FALSE, FALSE);
-}
-
-void CDialog::PrevDlgCtrl() const
-{
-    SendMessage(WM_NEXTDLGCTL, TRUE, FALSE);
-}
-
 void CDialog::GotoDlgCtrl(CWnd* control)
 {
     SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(HandleOf(control)), TRUE);
-}
-
-DWORD CDialog::GetDefID() const
-{
-    return static_cast<DWORD>(SendMessage(DM_GETDEFID));
-}
-
-void CDialog::SetDefID(UINT id)
-{
-    SendMessage(DM_SETDEFID, id);
 }

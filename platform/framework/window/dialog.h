@@ -37,12 +37,7 @@ public:
     /// Non-zero while the dialog runs modally and EndDialog has not been called yet.
     BOOL ContinueModal() const;
 
-    void NextDlgCtrl() const;
-    void PrevDlgCtrl() const;
     void GotoDlgCtrl(CWnd* control);
-    DWORD GetDefID() const;
-    void SetDefID(UINT id);
-    void MapDialogRect(LPRECT rect) const { ::MapDialogRect(m_hWnd, rect); }
 
     BOOL DestroyWindow() override;
     BOOL PreTranslateMessage(MSG* message) override;

@@ -94,7 +94,7 @@ constexpr UINT Code(UINT code)
 }
 }  // namespace message_map
 
-// Handlers are given as &Class::Handler. The signature stands after each macro.
+// Handlers are given as &Class::Handler. The signature stands before each macro.
 
 // void OnCommand()
 #define ON_COMMAND(id, handler) {WM_COMMAND, CN_COMMAND, id, id, &message_map::Plain<handler>},
@@ -104,9 +104,6 @@ constexpr UINT Code(UINT code)
 // void OnControl()
 #define ON_CONTROL(code, id, handler)                                                                                  \
     {WM_COMMAND, message_map::Code(static_cast<UINT>(code)), id, id, &message_map::Plain<handler>},
-// void OnControl(UINT id)
-#define ON_CONTROL_RANGE(code, id, last_id, handler)                                                                   \
-    {WM_COMMAND, message_map::Code(static_cast<UINT>(code)), id, last_id, &message_map::CommandRange<handler>},
 // void OnControl(), in the control's own map
 #define ON_CONTROL_REFLECT(code, handler)                                                                              \
     {WM_COMMAND + kReflectedMessage, message_map::Code(static_cast<UINT>(code)), 0, 0, &message_map::Plain<handler>},
@@ -121,21 +118,11 @@ constexpr UINT Code(UINT code)
 #define ON_MESSAGE(message, handler) {message, 0, 0, 0, &message_map::Message<handler>},
 
 #define ON_BN_CLICKED(id, handler) ON_CONTROL(BN_CLICKED, id, handler)
-#define ON_BN_DOUBLECLICKED(id, handler) ON_CONTROL(BN_DOUBLECLICKED, id, handler)
 
 #define ON_CBN_CLOSEUP(id, handler) ON_CONTROL(CBN_CLOSEUP, id, handler)
 #define ON_CBN_DROPDOWN(id, handler) ON_CONTROL(CBN_DROPDOWN, id, handler)
 #define ON_CBN_EDITCHANGE(id, handler) ON_CONTROL(CBN_EDITCHANGE, id, handler)
-#define ON_CBN_KILLFOCUS(id, handler) ON_CONTROL(CBN_KILLFOCUS, id, handler)
 #define ON_CBN_SELCHANGE(id, handler) ON_CONTROL(CBN_SELCHANGE, id, handler)
-#define ON_CBN_SELENDCANCEL(id, handler) ON_CONTROL(CBN_SELENDCANCEL, id, handler)
-#define ON_CBN_SELENDOK(id, handler) ON_CONTROL(CBN_SELENDOK, id, handler)
-#define ON_CBN_SETFOCUS(id, handler) ON_CONTROL(CBN_SETFOCUS, id, handler)
 
 #define ON_EN_CHANGE(id, handler) ON_CONTROL(EN_CHANGE, id, handler)
-#define ON_EN_KILLFOCUS(id, handler) ON_CONTROL(EN_KILLFOCUS, id, handler)
-#define ON_EN_SETFOCUS(id, handler) ON_CONTROL(EN_SETFOCUS, id, handler)
 #define ON_EN_UPDATE(id, handler) ON_CONTROL(EN_UPDATE, id, handler)
-
-#define ON_LBN_DBLCLK(id, handler) ON_CONTROL(LBN_DBLCLK, id, handler)
-#define ON_LBN_SELCHANGE(id, handler) ON_CONTROL(LBN_SELCHANGE, id, handler)

@@ -18,13 +18,6 @@ void RegisterCommonControls()
     static_cast<void>(registered);
 }
 
-BOOL AfxRegisterClass(WNDCLASS* windowClass)
-{
-    WNDCLASS present = {};
-    return ::GetClassInfoW(windowClass->hInstance, windowClass->lpszClassName, &present) ||
-           ::RegisterClassW(windowClass) != 0;
-}
-
 LPCWSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH background, HICON icon)
 {
     static auto& names = *new std::set<std::wstring>;
@@ -40,7 +33,9 @@ LPCWSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH background, 
     windowClass.hCursor = cursor;
     windowClass.hbrBackground = background;
     windowClass.lpszClassName = kept->c_str();
-    if (!AfxRegisterClass(&windowClass))
+    WNDCLASS present = {};
+    if (!::GetClassInfoW(windowClass.hInstance, windowClass.lpszClassName, &present) &&
+        ::RegisterClassW(&windowClass) == 0)
         AfxThrowResourceException();
     return kept->c_str();
 }

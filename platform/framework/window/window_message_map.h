@@ -6,9 +6,6 @@
 #include "window/message_map.h"
 #include "window/wnd.h"
 
-/// The row of CTLCOLOR handlers: stands for all WM_CTLCOLOR... messages, whose kind becomes the third argument.
-constexpr UINT kControlColourMessage = 0x0019;
-
 namespace message_map
 {
 inline int SignedLow(LPARAM value)
@@ -43,12 +40,6 @@ void Size(CCmdTarget& target, HandlerCall& call)
 {
     Call<handler, void>(target, static_cast<UINT>(call.wParam), static_cast<int>(LOWORD(call.lParam)),
                         static_cast<int>(HIWORD(call.lParam)));
-}
-
-template <auto handler>
-void Move(CCmdTarget& target, HandlerCall& call)
-{
-    Call<handler, void>(target, SignedLow(call.lParam), SignedHigh(call.lParam));
 }
 
 template <auto handler>
@@ -114,12 +105,6 @@ void SetCursor(CCmdTarget& target, HandlerCall& call)
 }
 
 template <auto handler>
-void Timer(CCmdTarget& target, HandlerCall& call)
-{
-    Call<handler, void>(target, static_cast<UINT_PTR>(call.wParam));
-}
-
-template <auto handler>
 void DrawItem(CCmdTarget& target, HandlerCall& call)
 {
     Call<handler, void>(target, static_cast<int>(call.wParam), reinterpret_cast<LPDRAWITEMSTRUCT>(call.lParam));
@@ -133,44 +118,6 @@ void MeasureItem(CCmdTarget& target, HandlerCall& call)
     call.result = TRUE;
 }
 
-template <auto handler>
-void ControlColour(CCmdTarget& target, HandlerCall& call)
-{
-    call.result = reinterpret_cast<LRESULT>(Call<handler, HBRUSH>(
-        target, CDC::FromHandle(reinterpret_cast<HDC>(call.wParam)), WindowOf(static_cast<WPARAM>(call.lParam)),
-        static_cast<UINT>(call.message - WM_CTLCOLORMSGBOX)));
-}
-
-template <auto handler>
-void CaptureChanged(CCmdTarget& target, HandlerCall& call)
-{
-    Call<handler, void>(target, WindowOf(static_cast<WPARAM>(call.lParam)));
-}
-
-template <auto handler>
-void Enable(CCmdTarget& target, HandlerCall& call)
-{
-    Call<handler, void>(target, static_cast<BOOL>(call.wParam));
-}
-
-template <auto handler>
-void ShowWindow(CCmdTarget& target, HandlerCall& call)
-{
-    Call<handler, void>(target, static_cast<BOOL>(call.wParam), static_cast<UINT>(call.lParam));
-}
-
-template <auto handler>
-void Activate(CCmdTarget& target, HandlerCall& call)
-{
-    Call<handler, void>(target, static_cast<UINT>(LOWORD(call.wParam)), WindowOf(static_cast<WPARAM>(call.lParam)),
-                        static_cast<BOOL>(HIWORD(call.wParam)));
-}
-
-template <auto handler>
-void SystemCommand(CCmdTarget& target, HandlerCall& call)
-{
-    Call<handler, void>(target, static_cast<UINT>(call.wParam), call.lParam);
-}
 }  // namespace message_map
 
 #define FRAMEWORK_ON_WM(message, kind, handler) {message, 0, 0, 0, &message_map::kind<&ThisClass::handler>},
@@ -183,18 +130,15 @@ void SystemCommand(CCmdTarget& target, HandlerCall& call)
 #define ON_WM_PAINT() FRAMEWORK_ON_WM(WM_PAINT, Plain, OnPaint)
 #define ON_WM_ERASEBKGND() FRAMEWORK_ON_WM(WM_ERASEBKGND, EraseBackground, OnEraseBkgnd)
 #define ON_WM_SIZE() FRAMEWORK_ON_WM(WM_SIZE, Size, OnSize)
-#define ON_WM_MOVE() FRAMEWORK_ON_WM(WM_MOVE, Move, OnMove)
 #define ON_WM_CHAR() FRAMEWORK_ON_WM(WM_CHAR, Key, OnChar)
 #define ON_WM_KEYDOWN() FRAMEWORK_ON_WM(WM_KEYDOWN, Key, OnKeyDown)
 #define ON_WM_KEYUP() FRAMEWORK_ON_WM(WM_KEYUP, Key, OnKeyUp)
-#define ON_WM_SYSKEYDOWN() FRAMEWORK_ON_WM(WM_SYSKEYDOWN, Key, OnSysKeyDown)
 #define ON_WM_SETFOCUS() FRAMEWORK_ON_WM(WM_SETFOCUS, Focus, OnSetFocus)
 #define ON_WM_KILLFOCUS() FRAMEWORK_ON_WM(WM_KILLFOCUS, Focus, OnKillFocus)
 #define ON_WM_LBUTTONDOWN() FRAMEWORK_ON_WM(WM_LBUTTONDOWN, Mouse, OnLButtonDown)
 #define ON_WM_LBUTTONUP() FRAMEWORK_ON_WM(WM_LBUTTONUP, Mouse, OnLButtonUp)
 #define ON_WM_LBUTTONDBLCLK() FRAMEWORK_ON_WM(WM_LBUTTONDBLCLK, Mouse, OnLButtonDblClk)
 #define ON_WM_RBUTTONDOWN() FRAMEWORK_ON_WM(WM_RBUTTONDOWN, Mouse, OnRButtonDown)
-#define ON_WM_RBUTTONUP() FRAMEWORK_ON_WM(WM_RBUTTONUP, Mouse, OnRButtonUp)
 #define ON_WM_MOUSEMOVE() FRAMEWORK_ON_WM(WM_MOUSEMOVE, Mouse, OnMouseMove)
 #define ON_WM_MOUSEWHEEL() FRAMEWORK_ON_WM(WM_MOUSEWHEEL, MouseWheel, OnMouseWheel)
 #define ON_WM_HSCROLL() FRAMEWORK_ON_WM(WM_HSCROLL, Scroll, OnHScroll)
@@ -203,12 +147,5 @@ void SystemCommand(CCmdTarget& target, HandlerCall& call)
 #define ON_WM_CONTEXTMENU() FRAMEWORK_ON_WM(WM_CONTEXTMENU, ContextMenu, OnContextMenu)
 #define ON_WM_GETDLGCODE() FRAMEWORK_ON_WM(WM_GETDLGCODE, DialogCode, OnGetDlgCode)
 #define ON_WM_SETCURSOR() FRAMEWORK_ON_WM(WM_SETCURSOR, SetCursor, OnSetCursor)
-#define ON_WM_TIMER() FRAMEWORK_ON_WM(WM_TIMER, Timer, OnTimer)
 #define ON_WM_DRAWITEM() FRAMEWORK_ON_WM(WM_DRAWITEM, DrawItem, OnDrawItem)
 #define ON_WM_MEASUREITEM() FRAMEWORK_ON_WM(WM_MEASUREITEM, MeasureItem, OnMeasureItem)
-#define ON_WM_CTLCOLOR() FRAMEWORK_ON_WM(kControlColourMessage, ControlColour, OnCtlColor)
-#define ON_WM_CAPTURECHANGED() FRAMEWORK_ON_WM(WM_CAPTURECHANGED, CaptureChanged, OnCaptureChanged)
-#define ON_WM_ENABLE() FRAMEWORK_ON_WM(WM_ENABLE, Enable, OnEnable)
-#define ON_WM_SHOWWINDOW() FRAMEWORK_ON_WM(WM_SHOWWINDOW, ShowWindow, OnShowWindow)
-#define ON_WM_ACTIVATE() FRAMEWORK_ON_WM(WM_ACTIVATE, Activate, OnActivate)
-#define ON_WM_SYSCOMMAND() FRAMEWORK_ON_WM(WM_SYSCOMMAND, SystemCommand, OnSysCommand)

@@ -6,7 +6,6 @@
 
 #include "window/message_map.h"
 
-class CBitmap;
 class CDataExchange;
 class CDC;
 class CFont;
@@ -71,10 +70,6 @@ public:
     {
         return ::PostMessageW(m_hWnd, message, wParam, lParam);
     }
-    LRESULT SendDlgItemMessage(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
-    {
-        return ::SendDlgItemMessageW(m_hWnd, id, message, wParam, lParam);
-    }
     /// A look at a posted message before it is dispatched; non-zero when it is done with.
     virtual BOOL PreTranslateMessage(MSG* message);
     /// Calls PreTranslateMessage of the permanent objects from the message's window upwards until `last`, included.
@@ -100,7 +95,6 @@ public:
     BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
     BOOL ShowWindow(int showCommand) { return ::ShowWindow(m_hWnd, showCommand); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
-    BOOL IsIconic() const { return ::IsIconic(m_hWnd); }
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongW(m_hWnd, GWL_STYLE)); }
     DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLongW(m_hWnd, GWL_EXSTYLE)); }
     /// @param positionFlags  when not 0, SetWindowPos is called with them and no move, size or order
@@ -108,18 +102,7 @@ public:
     BOOL ModifyStyle(DWORD remove, DWORD add, UINT positionFlags = 0);
     BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT positionFlags = 0);
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
-    static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
-    CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
-    static CWnd* GetCapture() { return FromHandle(::GetCapture()); }
     CWnd* SetActiveWindow() { return FromHandle(::SetActiveWindow(m_hWnd)); }
-    static CWnd* GetActiveWindow() { return FromHandle(::GetActiveWindow()); }
-    BOOL SetForegroundWindow() { return ::SetForegroundWindow(m_hWnd); }
-    static CWnd* GetForegroundWindow() { return FromHandle(::GetForegroundWindow()); }
-    UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds, TIMERPROC callback = nullptr)
-    {
-        return ::SetTimer(m_hWnd, id, milliseconds, callback);
-    }
-    BOOL KillTimer(UINT_PTR id) { return ::KillTimer(m_hWnd, id); }
 
     // place
     void GetWindowRect(LPRECT rect) const { ::GetWindowRect(m_hWnd, rect); }
@@ -136,25 +119,12 @@ public:
     {
         return ::SetWindowPos(m_hWnd, HandleOf(insertAfter), x, y, width, height, flags);
     }
-    void BringWindowToTop() { ::BringWindowToTop(m_hWnd); }
     void ClientToScreen(LPPOINT point) const { ::ClientToScreen(m_hWnd, point); }
     void ClientToScreen(LPRECT rect) const { ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<LPPOINT>(rect), 2); }
     void ScreenToClient(LPPOINT point) const { ::ScreenToClient(m_hWnd, point); }
     void ScreenToClient(LPRECT rect) const { ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<LPPOINT>(rect), 2); }
-    void MapWindowPoints(CWnd* to, LPPOINT points, UINT count) const
-    {
-        ::MapWindowPoints(m_hWnd, HandleOf(to), points, count);
-    }
-    void MapWindowPoints(CWnd* to, LPRECT rect) const { MapWindowPoints(to, reinterpret_cast<LPPOINT>(rect), 2); }
-    /// Centres over `other`, or over the owner, or else on the screen; stays within the monitor's work area.
-    void CenterWindow(CWnd* other = nullptr);
 
     // painting
-    CDC* GetDC() const;
-    CDC* GetWindowDC() const;
-    int ReleaseDC(CDC* dc) const;
-    CDC* BeginPaint(LPPAINTSTRUCT paint);
-    void EndPaint(LPPAINTSTRUCT paint) { ::EndPaint(m_hWnd, paint); }
     void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
     void InvalidateRect(LPCRECT rect, BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, rect, erase); }
     void ValidateRect(LPCRECT rect) { ::ValidateRect(m_hWnd, rect); }
@@ -167,40 +137,11 @@ public:
     }
     void SetRedraw(BOOL redraw = TRUE) { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw)); }
 
-    // scrolling
-    int GetScrollPos(int bar) const { return ::GetScrollPos(m_hWnd, bar); }
-    int SetScrollPos(int bar, int position, BOOL redraw = TRUE)
-    {
-        return ::SetScrollPos(m_hWnd, bar, position, redraw);
-    }
-    void SetScrollRange(int bar, int lowest, int highest, BOOL redraw = TRUE)
-    {
-        ::SetScrollRange(m_hWnd, bar, lowest, highest, redraw);
-    }
-    BOOL GetScrollInfo(int bar, LPSCROLLINFO info, UINT mask = SIF_ALL) const;
-    BOOL SetScrollInfo(int bar, LPSCROLLINFO info, BOOL redraw = TRUE);
-    void ShowScrollBar(UINT bar, BOOL show = TRUE) { ::ShowScrollBar(m_hWnd, static_cast<int>(bar), show); }
-
     // relatives
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
-    CWnd* SetParent(CWnd* parent) { return FromHandle(::SetParent(m_hWnd, HandleOf(parent))); }
-    CWnd* GetOwner() const { return FromHandle(::GetWindow(m_hWnd, GW_OWNER)); }
-    /// The window itself when it is no child, else the nearest one above it that is none.
-    CWnd* GetTopLevelParent() const { return FromHandle(::GetAncestor(m_hWnd, GA_ROOT)); }
-    CWnd* GetLastActivePopup() const { return FromHandle(::GetLastActivePopup(m_hWnd)); }
-    CWnd* GetWindow(UINT relation) const { return FromHandle(::GetWindow(m_hWnd, relation)); }
-    BOOL IsChild(const CWnd* wnd) const { return ::IsChild(m_hWnd, HandleOf(wnd)); }
-    CWnd* ChildWindowFromPoint(POINT point) const { return FromHandle(::ChildWindowFromPoint(m_hWnd, point)); }
-    static CWnd* WindowFromPoint(POINT point) { return FromHandle(::WindowFromPoint(point)); }
-    static CWnd* GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
-    static CWnd* FindWindow(LPCWSTR className, LPCWSTR windowName)
-    {
-        return FromHandle(::FindWindowW(className, windowName));
-    }
 
     // dialog items
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
-    void SetDlgCtrlID(int id) { ::SetWindowLongPtrW(m_hWnd, GWLP_ID, id); }
     CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
     void GetDlgItem(int id, HWND* window) const { *window = ::GetDlgItem(m_hWnd, id); }
     void SetDlgItemText(int id, LPCWSTR text) { ::SetDlgItemTextW(m_hWnd, id, text); }
@@ -209,25 +150,12 @@ public:
         return static_cast<int>(::GetDlgItemTextW(m_hWnd, id, buffer, capacity));
     }
     int GetDlgItemText(int id, CString& text) const;
-    void SetDlgItemInt(int id, UINT value, BOOL isSigned = TRUE) { ::SetDlgItemInt(m_hWnd, id, value, isSigned); }
-    UINT GetDlgItemInt(int id, BOOL* translated = nullptr, BOOL isSigned = TRUE) const
-    {
-        return ::GetDlgItemInt(m_hWnd, id, translated, isSigned);
-    }
     void CheckDlgButton(int id, UINT check) { ::CheckDlgButton(m_hWnd, id, check); }
     UINT IsDlgButtonChecked(int id) const { return ::IsDlgButtonChecked(m_hWnd, id); }
-    void CheckRadioButton(int first, int last, int checked) { ::CheckRadioButton(m_hWnd, first, last, checked); }
-    int GetCheckedRadioButton(int first, int last) const;
-    CWnd* GetNextDlgTabItem(CWnd* control, BOOL previous = FALSE) const
-    {
-        return FromHandle(::GetNextDlgTabItem(m_hWnd, HandleOf(control), previous));
-    }
 
     // menu
     CMenu* GetMenu() const;
     BOOL SetMenu(CMenu* menu);
-    CMenu* GetSystemMenu(BOOL revert) const;
-    void DrawMenuBar() { ::DrawMenuBar(m_hWnd); }
 
     int MessageBox(LPCWSTR text, LPCWSTR caption = nullptr, UINT type = MB_OK);
 
@@ -261,18 +189,15 @@ protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int width, int height);
-    afx_msg void OnMove(int x, int y);
     afx_msg void OnChar(UINT character, UINT repeatCount, UINT flags);
     afx_msg void OnKeyDown(UINT key, UINT repeatCount, UINT flags);
     afx_msg void OnKeyUp(UINT key, UINT repeatCount, UINT flags);
-    afx_msg void OnSysKeyDown(UINT key, UINT repeatCount, UINT flags);
     afx_msg void OnSetFocus(CWnd* former);
     afx_msg void OnKillFocus(CWnd* next);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
-    afx_msg void OnRButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT flags, short distance, CPoint screenPoint);
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
@@ -281,15 +206,8 @@ protected:
     afx_msg void OnContextMenu(CWnd* wnd, CPoint screenPoint);
     afx_msg UINT OnGetDlgCode();
     afx_msg BOOL OnSetCursor(CWnd* wnd, UINT hitTest, UINT message);
-    afx_msg void OnTimer(UINT_PTR id);
     afx_msg void OnDrawItem(int controlId, LPDRAWITEMSTRUCT draw);
     afx_msg void OnMeasureItem(int controlId, LPMEASUREITEMSTRUCT measure);
-    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* wnd, UINT kind);
-    afx_msg void OnCaptureChanged(CWnd* wnd);
-    afx_msg void OnEnable(BOOL enable);
-    afx_msg void OnShowWindow(BOOL show, UINT status);
-    afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
-    afx_msg void OnSysCommand(UINT id, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 
@@ -310,8 +228,6 @@ inline HWND HandleOf(const CWnd* wnd)
     return wnd == nullptr ? nullptr : wnd->m_hWnd;
 }
 
-/// Registers a window class with the framework; does nothing when the class exists.
-FRAMEWORK_API BOOL AfxRegisterClass(WNDCLASS* windowClass);
 /// The name of a window class with these properties, registered on first use; valid until the process ends.
 FRAMEWORK_API LPCWSTR AfxRegisterWndClass(UINT classStyle, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
                                           HICON icon = nullptr);

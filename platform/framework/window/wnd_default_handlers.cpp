@@ -32,11 +32,6 @@ void CWnd::OnSize(UINT, int, int)
     Default();
 }
 
-void CWnd::OnMove(int, int)
-{
-    Default();
-}
-
 void CWnd::OnChar(UINT, UINT, UINT)
 {
     Default();
@@ -48,11 +43,6 @@ void CWnd::OnKeyDown(UINT, UINT, UINT)
 }
 
 void CWnd::OnKeyUp(UINT, UINT, UINT)
-{
-    Default();
-}
-
-void CWnd::OnSysKeyDown(UINT, UINT, UINT)
 {
     Default();
 }
@@ -83,11 +73,6 @@ void CWnd::OnLButtonDblClk(UINT, CPoint)
 }
 
 void CWnd::OnRButtonDown(UINT, CPoint)
-{
-    Default();
-}
-
-void CWnd::OnRButtonUp(UINT, CPoint)
 {
     Default();
 }
@@ -130,39 +115,4 @@ UINT CWnd::OnGetDlgCode()
 BOOL CWnd::OnSetCursor(CWnd*, UINT, UINT)
 {
     return static_cast<BOOL>(Default());
-}
-
-void CWnd::OnTimer(UINT_PTR)
-{
-    Default();
-}
-
-HBRUSH CWnd::OnCtlColor(CDC*, CWnd*, UINT)
-{
-    return reinterpret_cast<HBRUSH>(Default());
-}
-
-void CWnd::OnCaptureChanged(CWnd*)
-{
-    Default();
-}
-
-void CWnd::OnEnable(BOOL)
-{
-    Default();
-}
-
-void CWnd::OnShowWindow(BOOL, UINT)
-{
-    Default();
-}
-
-void CWnd::OnActivate(UINT, CWnd*, BOOL)
-{
-    Default();
-}
-
-void CWnd::OnSysCommand(UINT, LPARAM)
-{
-    Default();
 }

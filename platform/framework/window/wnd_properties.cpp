@@ -1,9 +1,6 @@
-// Text, style, place and relatives of a window.
+// Text, font, style and menu of a window.
 
-#include <algorithm>
-#include <vector>
-
-#include "graphics/dc.h"
+#include "graphics/gdi_object.h"
 #include "graphics/menu.h"
 #include "window/wnd.h"
 
@@ -39,16 +36,6 @@ int CWnd::GetDlgItemText(int id, CString& text) const
     return text.GetLength();
 }
 
-int CWnd::GetCheckedRadioButton(int first, int last) const
-{
-    for (int id = first; id <= last; ++id)
-    {
-        if (IsDlgButtonChecked(id) != BST_UNCHECKED)
-            return id;
-    }
-    return 0;
-}
-
 void CWnd::SetFont(CFont* font, BOOL redraw)
 {
     SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(HandleOf(font)), redraw);
@@ -69,77 +56,6 @@ BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add, UINT positionFlags)
     return ModifyWindowBits(m_hWnd, GWL_EXSTYLE, remove, add, positionFlags);
 }
 
-void CWnd::CenterWindow(CWnd* other)
-{
-    const bool child = (GetStyle() & WS_CHILD) != 0;
-    HWND reference = HandleOf(other);
-    if (reference == nullptr)
-        reference = child ? ::GetParent(m_hWnd) : ::GetWindow(m_hWnd, GW_OWNER);
-    const bool usable = reference != nullptr && ::IsWindowVisible(reference) && !::IsIconic(reference);
-
-    CRect area;  // that the window must not leave; screen coordinates
-    if (child)
-    {
-        ::GetClientRect(::GetParent(m_hWnd), &area);
-        ::MapWindowPoints(::GetParent(m_hWnd), nullptr, reinterpret_cast<LPPOINT>(&area), 2);
-    }
-    else
-    {
-        MONITORINFO monitor = {};
-        monitor.cbSize = sizeof(monitor);
-        ::GetMonitorInfoW(::MonitorFromWindow(usable ? reference : m_hWnd, MONITOR_DEFAULTTOPRIMARY), &monitor);
-        area = monitor.rcWork;
-    }
-    CRect middle = area;
-    if (usable && (!child || other != nullptr))
-        ::GetWindowRect(reference, &middle);
-
-    CRect own;
-    GetWindowRect(&own);
-    const int left = middle.left + (middle.Width() - own.Width()) / 2;
-    const int top = middle.top + (middle.Height() - own.Height()) / 2;
-    const int rightmost = std::max<int>(area.left, area.right - own.Width());
-    const int lowest = std::max<int>(area.top, area.bottom - own.Height());
-    CPoint place(std::clamp<int>(left, area.left, rightmost), std::clamp<int>(top, area.top, lowest));
-    if (child)
-        ::ScreenToClient(::GetParent(m_hWnd), &place);
-    SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-CDC* CWnd::GetDC() const
-{
-    return CDC::FromHandle(::GetDC(m_hWnd));
-}
-
-CDC* CWnd::GetWindowDC() const
-{
-    return CDC::FromHandle(::GetWindowDC(m_hWnd));
-}
-
-int CWnd::ReleaseDC(CDC* dc) const
-{
-    return ::ReleaseDC(m_hWnd, dc->m_hDC);
-}
-
-CDC* CWnd::BeginPaint(LPPAINTSTRUCT paint)
-{
-    return CDC::FromHandle(::BeginPaint(m_hWnd, paint));
-}
-
-BOOL CWnd::GetScrollInfo(int bar, LPSCROLLINFO info, UINT mask) const
-{
-    info->cbSize = sizeof(*info);
-    info->fMask = mask;
-    return ::GetScrollInfo(m_hWnd, bar, info);
-}
-
-BOOL CWnd::SetScrollInfo(int bar, LPSCROLLINFO info, BOOL redraw)
-{
-    info->cbSize = sizeof(*info);
-    ::SetScrollInfo(m_hWnd, bar, info, redraw);
-    return TRUE;
-}
-
 CMenu* CWnd::GetMenu() const
 {
     return CMenu::FromHandle(::GetMenu(m_hWnd));
@@ -148,11 +64,6 @@ CMenu* CWnd::GetMenu() const
 BOOL CWnd::SetMenu(CMenu* menu)
 {
     return ::SetMenu(m_hWnd, menu == nullptr ? nullptr : menu->m_hMenu);
-}
-
-CMenu* CWnd::GetSystemMenu(BOOL revert) const
-{
-    return CMenu::FromHandle(::GetSystemMenu(m_hWnd, revert));
 }
 
 int CWnd::MessageBox(LPCWSTR text, LPCWSTR caption, UINT type)

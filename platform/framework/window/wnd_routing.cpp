@@ -24,11 +24,10 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
         return OnCommand(wParam, lParam);
     if (message == WM_NOTIFY)
         return OnNotify(wParam, lParam, result);
-    const bool controlColour = message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
-    const AFX_MSGMAP_ENTRY* entry = FindMessageEntry(controlColour ? kControlColourMessage : message, 0, 0);
+    const AFX_MSGMAP_ENTRY* entry = FindMessageEntry(message, 0, 0);
     if (entry == nullptr)
         return FALSE;
-    HandlerCall call = {message, wParam, lParam, 0};
+    HandlerCall call = {wParam, lParam, 0};
     entry->pfn(*this, call);
     *result = call.result;
     return TRUE;
@@ -90,7 +89,7 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     const AFX_MSGMAP_ENTRY* entry = FindMessageEntry(message + kReflectedMessage, code, 0);
     if (entry == nullptr)
         return FALSE;
-    HandlerCall call = {message, wParam, lParam, 0};
+    HandlerCall call = {wParam, lParam, 0};
     entry->pfn(*this, call);
     *result = call.result;
     return TRUE;

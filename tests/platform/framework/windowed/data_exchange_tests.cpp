@@ -22,7 +22,10 @@ protected:
     {
         CDialog::DoDataExchange(exchange);
         DDX_Control(exchange, IDC_FIRST, m_edit);
-        DDX_Text(exchange, IDC_SECOND, m_text);
+        if (exchange->m_bSaveAndValidate)
+            GetDlgItemText(IDC_SECOND, m_text);
+        else
+            SetDlgItemText(IDC_SECOND, m_text);
         if (m_missingControl != 0)
             exchange->PrepareCtrl(m_missingControl);
         if (m_refuse)

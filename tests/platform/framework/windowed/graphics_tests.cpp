@@ -62,11 +62,10 @@ TEST(GdiObject, DetachedObjectLivesOn)
 
 TEST(GdiObject, DeletedTwiceIsNothing)
 {
-    CRgn region;
-    ASSERT_TRUE(region.CreateRectRgn(0, 0, 5, 5));
-    EXPECT_TRUE(region.DeleteObject());
-    EXPECT_FALSE(region.DeleteObject());
-    EXPECT_EQ(region.GetSafeHandle(), nullptr);
+    CBrush brush(kRed);
+    EXPECT_TRUE(brush.DeleteObject());
+    EXPECT_FALSE(brush.DeleteObject());
+    EXPECT_EQ(brush.GetSafeHandle(), nullptr);
 }
 
 TEST(GdiObject, FontKeepsItsDescription)
@@ -101,7 +100,7 @@ TEST(DeviceContext, SelectObjectGivesTheFormerObject)
     CBrush red(kRed);
     CBrush* former = picture.Dc().SelectObject(&red);
     ASSERT_NE(former, nullptr);
-    EXPECT_EQ(picture.Dc().GetCurrentBrush(), &red);
+    EXPECT_EQ(::GetCurrentObject(picture.Dc().m_hDC, OBJ_BRUSH), red.GetSafeHandle());
     EXPECT_EQ(picture.Dc().SelectObject(former), &red);
 }
 
@@ -178,7 +177,7 @@ TEST(DeviceContext, RefusedWindowRaisesAResourceException)
     CWnd other;
     other.m_hWnd = gone.m_hWnd;
     gone.DestroyWindow();
-    EXPECT_THROW(CWindowDC dc(&other), CResourceException*);
+    EXPECT_THROW(CClientDC dc(&other), CResourceException*);
     other.m_hWnd = nullptr;
 }
 
@@ -196,7 +195,8 @@ TEST(GdiCount, DrawingRoundsLeaveNoObjectBehind)
         CPen* formerPen = dc.SelectObject(&pen);
         CBrush* formerBrush = dc.SelectObject(&brush);
         CFont* formerFont = dc.SelectObject(&font);
-        dc.Rectangle(0, 0, 20, 20);
+        const POINT corners[] = {{0, 0}, {20, 0}, {20, 20}};
+        dc.Polygon(corners, 3);
         dc.TextOut(1, 1, CString(L"T"));
         dc.SelectObject(formerFont);
         dc.SelectObject(formerBrush);

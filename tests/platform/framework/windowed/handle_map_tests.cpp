@@ -94,7 +94,7 @@ TEST(HandleMap, TemporaryObjectHasTheClassOfItsControl)
 TEST(HandleMap, IdleDeletesTemporaryObjectsAndLeavesTheirWindows)
 {
     const ForeignWindow foreign;
-    CWnd::FromHandle(foreign)->SetDlgCtrlID(0);
+    CWnd::FromHandle(foreign)->EnableWindow();
     CBrush brush(RGB(1, 2, 3));
     AfxGetThread()->OnIdle(0);
     EXPECT_TRUE(::IsWindow(foreign));

@@ -71,5 +71,5 @@ TEST(AfxMessageBox, LastPopupOfTheMainWindowOwnsItWhenNoWindowIsActive)
     const HWND active = ::GetActiveWindow();
     const ExpectMessageBox box;
     AfxMessageBox(L"text");
-    EXPECT_EQ(box.Owner(), active == nullptr ? main.GetLastActivePopup()->m_hWnd : active);
+    EXPECT_EQ(box.Owner(), active == nullptr ? ::GetLastActivePopup(main) : active);
 }

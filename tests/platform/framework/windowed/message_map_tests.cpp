@@ -40,11 +40,6 @@ public:
     CScrollBar* m_bar = nullptr;
     CPoint m_point;
     UINT m_key = 0;
-    UINT m_colourKind = 0;
-    HWND m_colouredControl = nullptr;
-    CBrush m_brush;
-
-    CRoutedWindow() { m_brush.CreateSolidBrush(RGB(1, 2, 3)); }
 
 protected:
     afx_msg void OnBoth() { m_calls.push_back("derived command"); }
@@ -64,12 +59,6 @@ protected:
     }
     afx_msg void OnLButtonDown(UINT, CPoint point) { m_point = point; }
     afx_msg void OnKeyDown(UINT key, UINT, UINT) { m_key = key; }
-    afx_msg HBRUSH OnCtlColor(CDC*, CWnd* wnd, UINT kind)
-    {
-        m_colouredControl = wnd->m_hWnd;
-        m_colourKind = kind;
-        return m_brush;
-    }
     afx_msg UINT OnGetDlgCode() { return DLGC_WANTTAB; }
 
     DECLARE_MESSAGE_MAP()
@@ -80,7 +69,6 @@ BEGIN_MESSAGE_MAP(CRoutedWindow, CBaseWindow)
     ON_WM_HSCROLL()
     ON_WM_LBUTTONDOWN()
     ON_WM_KEYDOWN()
-    ON_WM_CTLCOLOR()
     ON_WM_GETDLGCODE()
     // commands
     ON_COMMAND(ID_DRAW, &CRoutedWindow::OnBoth)
@@ -195,20 +183,6 @@ TEST_F(MessageMap, KeyHandlerGetsTheKey)
 TEST_F(MessageMap, DialogCodeIsTheHandlersAnswer)
 {
     EXPECT_EQ(m_window.SendMessage(WM_GETDLGCODE), DLGC_WANTTAB);
-}
-
-TEST_F(MessageMap, ColourHandlerAnswersAllKindsOfControls)
-{
-    CEdit edit;
-    ASSERT_TRUE(edit.Create(0, CRect(0, 0, 50, 20), &m_window, 6));
-    CClientDC dc(&edit);
-    const LRESULT brush = m_window.SendMessage(WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc.m_hDC),
-                                               reinterpret_cast<LPARAM>(edit.m_hWnd));
-    EXPECT_EQ(reinterpret_cast<HBRUSH>(brush), static_cast<HBRUSH>(m_window.m_brush));
-    EXPECT_EQ(m_window.m_colourKind, static_cast<UINT>(CTLCOLOR_EDIT));
-    EXPECT_EQ(m_window.m_colouredControl, edit.m_hWnd);
-    m_window.SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.m_hDC), reinterpret_cast<LPARAM>(edit.m_hWnd));
-    EXPECT_EQ(m_window.m_colourKind, static_cast<UINT>(CTLCOLOR_STATIC));
 }
 
 TEST_F(MessageMap, AskingForTheHandlerDoesNotRunIt)

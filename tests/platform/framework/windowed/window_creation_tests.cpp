@@ -191,28 +191,6 @@ TEST(WindowProperties, TextIsSetAndReadWhole)
     EXPECT_TRUE(text.IsEmpty());
 }
 
-// Owner 600 x 400 at (0, 0), window 300 x 200: the middle is at (150, 100).
-TEST(WindowProperties, CentresOverItsOwner)
-{
-    RecordingWindow owner(600, 400);
-    RecordingWindow window(300, 200, &owner);
-    window.CenterWindow();
-    CRect rect;
-    window.GetWindowRect(&rect);
-    EXPECT_EQ(rect.TopLeft(), CPoint(150, 100));
-}
-
-TEST(WindowProperties, CentredWindowStaysOnTheScreen)
-{
-    RecordingWindow owner(100, 80);
-    owner.MoveWindow(0, 0, 100, 80);
-    RecordingWindow window(400, 300, &owner);
-    window.CenterWindow();
-    CRect rect;
-    window.GetWindowRect(&rect);
-    EXPECT_EQ(rect.TopLeft(), CPoint(0, 0));
-}
-
 TEST(MainWindow, IsForgottenWhenItIsDestroyed)
 {
     CDynamicWindow window;
