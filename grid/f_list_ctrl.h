@@ -173,6 +173,8 @@ private:
     // rows
     RowKey Attach(CFListRow* row, CFListRow* parent);
     bool IsShown(const CFListRow& row) const;
+    CFListRow* RowToExpand(RowKey key) const;    // null: nothing to do
+    CFListRow* RowToCollapse(RowKey key) const;  // null: nothing to do
     int IndexOf(const CFListRow& row) const;
     int IndexBehind(const CFListRow& row) const;
     void ShowRow(CFListRow& row, int index);

@@ -131,9 +131,11 @@ bool CFListCtrl::BeginEditing(CWnd& editor, RowKey key, int column)
     m_editorKey = key;
     m_editorColumn = column;
     ::SetFocus(window);
-    if (m_editor == &editor && ::GetFocus() != window)
+    // By windows: the parent may have opened another editor, which may lie where this one was.
+    const auto isOpen = [this, window] { return m_editor != nullptr && m_editor->GetSafeHwnd() == window; };
+    if (isOpen() && ::GetFocus() != window)
         CloseEditor();
-    return m_editor == &editor;
+    return isOpen();
 }
 
 // The editor's report comes in while the grid takes the keyboard, and the list tells its parent: whoever closes an

@@ -228,13 +228,25 @@ void CFListCtrl::HideChildren(CFListRow& row, int& last)
         HideBranch(*child, last);
 }
 
+CFListCtrl::CFListRow* CFListCtrl::RowToExpand(RowKey key) const
+{
+    CFListRow* const row = FindRow(key);
+    return row != nullptr && !row->IsExpanded() && IsShown(*row) && row->ChildCount() > 0 ? row : nullptr;
+}
+
+CFListCtrl::CFListRow* CFListCtrl::RowToCollapse(RowKey key) const
+{
+    CFListRow* const row = FindRow(key);
+    return row != nullptr && row->IsExpanded() && row->ChildCount() > 0 ? row : nullptr;
+}
+
+// The parent is told while an editor closes: it may do with the row, or to it, what is asked here.
 void CFListCtrl::ExpandRow(RowKey key)
 {
-    const CFListRow* const found = FindRow(key);
-    if (found == nullptr || found->IsExpanded() || !IsShown(*found) || found->ChildCount() == 0)
+    if (RowToExpand(key) == nullptr)
         return;
     CloseEditor();
-    CFListRow* const row = FindRow(key);
+    CFListRow* const row = RowToExpand(key);
     if (row == nullptr)
         return;
     {
@@ -252,11 +264,10 @@ void CFListCtrl::ExpandRow(RowKey key)
 
 void CFListCtrl::CollapseRow(RowKey key)
 {
-    const CFListRow* const found = FindRow(key);
-    if (found == nullptr || !found->IsExpanded() || found->ChildCount() == 0)
+    if (RowToCollapse(key) == nullptr)
         return;
     CloseEditor();
-    CFListRow* const row = FindRow(key);
+    CFListRow* const row = RowToCollapse(key);
     if (row == nullptr)
         return;
     {

@@ -7,6 +7,9 @@
 #include "window/window_class.h"
 #include "window/window_creation.h"
 
+#include <algorithm>
+#include <vector>
+
 /// One run of DoModal. It outlives the dialog's window and even the dialog object.
 struct ModalRun
 {
@@ -56,6 +59,25 @@ HWND OwnerOfModal(const CWnd* parent)
         return parent->m_hWnd;
     const HWND main = HandleOf(AfxGetMainWnd());
     return main == nullptr ? nullptr : ::GetLastActivePopup(main);
+}
+
+/// The top-level window of that one, and all that own it.
+std::vector<HWND> OwnersFrom(HWND window)
+{
+    std::vector<HWND> owners;
+    for (HWND owner = window == nullptr ? nullptr : ::GetAncestor(window, GA_ROOT); owner != nullptr;
+         owner = ::GetWindow(owner, GW_OWNER))
+        owners.push_back(owner);
+    return owners;
+}
+
+void ActivateFirstOf(const std::vector<HWND>& windows)
+{
+    const auto living = std::ranges::find_if(windows, [](HWND window) {
+        return ::IsWindow(window) && ::IsWindowEnabled(window) && ::IsWindowVisible(window);
+    });
+    if (living != windows.end())
+        ::SetActiveWindow(*living);
 }
 
 // Handles the messages of the whole thread. Uses nothing of the dialog, which may be gone any time.
@@ -139,6 +161,7 @@ INT_PTR CDialog::DoModal()
     if (m_modalRun != nullptr || m_hWnd != nullptr)
         return -1;
     const HWND owner = OwnerOfModal(m_parent);
+    const std::vector<HWND> owners = OwnersFrom(owner);
     ModalRun run;
     m_modalRun = &run;
     try
@@ -158,8 +181,8 @@ INT_PTR CDialog::DoModal()
         throw;
     }
     EndModalRun(run);
-    if (run.abandoned && ::GetActiveWindow() == nullptr && ::IsWindow(owner))
-        ::SetActiveWindow(::GetAncestor(owner, GA_ROOT));
+    if (run.abandoned && ::GetActiveWindow() == nullptr)
+        ActivateFirstOf(owners);
     return run.result;
 }
 
@@ -174,8 +197,13 @@ void CDialog::EndModalRun(ModalRun& run)
 
 BOOL CDialog::DestroyWindow()
 {
-    if (m_modalRun != nullptr && m_hWnd != nullptr)
+    const HWND window = m_hWnd;
+    if (m_modalRun != nullptr && window != nullptr)
+    {
         m_modalRun->owners.Restore();  // before the window goes, so that activation can return to the owner
+        if (!::IsWindow(window))       // an owner that was told has destroyed it, and this object may be deleted
+            return TRUE;
+    }
     return CWnd::DestroyWindow();
 }
 

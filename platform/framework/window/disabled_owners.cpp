@@ -28,7 +28,7 @@ void DisabledOwners::Disable(HWND owner)
             m_windows.push_back(window);
             ::EnableWindow(window, FALSE);
         }
-        else if (IsHeld(window))
+        else if (HolderOf(window) != nullptr)
         {
             m_windows.push_back(window);
         }
@@ -43,17 +43,24 @@ void DisabledOwners::Restore()
     {
         const HWND window = m_windows.back();
         m_windows.pop_back();
-        if (!IsHeld(window) && ::IsWindow(window))
+        if (HolderOf(window) == nullptr && ::IsWindow(window))
             ::EnableWindow(window, TRUE);
     }
 }
 
-bool DisabledOwners::IsHeld(HWND window)
+// The windows are told, and may end any of the holders: each time it begins anew.
+void DisabledOwners::RestoreBelow(HWND window)
 {
-    for (const DisabledOwners* holder = innermostHolder; holder != nullptr; holder = holder->m_outer)
+    while (DisabledOwners* const holder = HolderOf(window))
+        holder->Restore();
+}
+
+DisabledOwners* DisabledOwners::HolderOf(HWND window)
+{
+    for (DisabledOwners* holder = innermostHolder; holder != nullptr; holder = holder->m_outer)
         if (std::ranges::find(holder->m_windows, window) != holder->m_windows.end())
-            return true;
-    return false;
+            return holder;
+    return nullptr;
 }
 
 void DisabledOwners::LetGoEverywhere(HWND window)

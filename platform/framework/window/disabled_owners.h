@@ -22,9 +22,11 @@ public:
     /// Lets all windows go. To be called before the window that they wait for is destroyed: Windows can activate only
     /// an enabled window.
     void Restore();
+    /// The same for all that wait for windows which a window owns, and so go with it.
+    static void RestoreBelow(HWND window);
 
 private:
-    static bool IsHeld(HWND window);
+    static DisabledOwners* HolderOf(HWND window);
     static void LetGoEverywhere(HWND window);
 
     DisabledOwners* m_outer;

@@ -1,6 +1,7 @@
 #include "window/wnd.h"
 
 #include "window/control_class.h"
+#include "window/disabled_owners.h"
 #include "window/handle_map.h"
 #include "window/window_class.h"
 #include "window/window_creation.h"
@@ -143,6 +144,9 @@ BOOL CWnd::DestroyWindow()
     const HWND window = m_hWnd;
     if (window == nullptr)
         return FALSE;
+    DisabledOwners::RestoreBelow(window);
+    if (!::IsWindow(window))  // somebody who was told has destroyed it, and this object may be deleted
+        return TRUE;
     const bool onlyAttached = m_formerProcedure == nullptr;
     const BOOL destroyed = ::DestroyWindow(window);
     if (onlyAttached && destroyed)

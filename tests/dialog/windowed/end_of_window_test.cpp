@@ -147,6 +147,7 @@ TEST_P(ChildAtTheEnd, EndsWithTheWindowOfTheCalculationDialog)
     EXPECT_FALSE(::IsWindow(child));
     EXPECT_EQ(Window(), nullptr);
     EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+    EXPECT_EQ(::GetActiveWindow(), host.m_hWnd);
 }
 
 TEST_P(ChildAtTheEnd, EndsWithTheCalculationDialog)
@@ -159,6 +160,7 @@ TEST_P(ChildAtTheEnd, EndsWithTheCalculationDialog)
     EXPECT_NE(child, nullptr);
     EXPECT_FALSE(::IsWindow(child));
     EXPECT_TRUE(::IsWindowEnabled(host.m_hWnd));
+    EXPECT_EQ(::GetActiveWindow(), host.m_hWnd);
 }
 
 // The child's object stays, but the dialog has forgotten it: a late host reads nothing.

@@ -1,6 +1,8 @@
 #include "grid_window.h"
 #include "tests/support/framework_printers.h"
 
+#include <utility>
+
 namespace
 {
 using Told = std::vector<std::string>;
@@ -23,6 +25,12 @@ protected:
         CString text;
         CWnd::FromHandle(editor)->GetWindowText(text);
         return text;
+    }
+    /// Begin and end of the selection; the caret is at both when nothing is selected.
+    std::pair<int, int> Caret() const
+    {
+        const auto selection = static_cast<DWORD>(::SendMessageW(Edit(), EM_GETSEL, 0, 0));
+        return {LOWORD(selection), HIWORD(selection)};
     }
 
     RowKey a = window.AddTop(L"A");
@@ -205,9 +213,11 @@ TEST_F(EditEditor, SpaceAlsoTogglesTheCellsCheckBox)
 TEST_F(EditEditor, LeftAndRightMoveTheCaret)
 {
     PressKey(VK_RETURN);
-    PressKey(VK_RIGHT);
+    PressKey(VK_END);
     PressKey(VK_LEFT);
-    EXPECT_NE(Edit(), nullptr);
+    EXPECT_EQ(Caret(), std::pair(1, 1));
+    PressKey(VK_RIGHT);
+    EXPECT_EQ(Caret(), std::pair(2, 2));
 }
 
 TEST_F(EditEditor, LeftAndRightEndWithControlHeld)
@@ -229,6 +239,17 @@ TEST_F(EditEditor, OtherKeysAreTheEdits)
     for (const UINT key : {VK_HOME, VK_END, VK_DELETE, VK_BACK, VK_INSERT, VK_F2})
         PressKey(key);
     EXPECT_NE(Edit(), nullptr);
+}
+
+TEST_F(EditEditor, OtherKeysDoWhatTheyDoInAnEdit)
+{
+    PressKey(VK_RETURN);
+    PressKey(VK_END);
+    EXPECT_EQ(Caret(), std::pair(2, 2));
+    PressKey(VK_HOME);
+    EXPECT_EQ(Caret(), std::pair(0, 0));
+    PressKey(VK_DELETE);
+    EXPECT_EQ(TextOf(Edit()), L"1");
 }
 
 TEST_F(EditEditor, ClickOnAnotherCellDiscards)

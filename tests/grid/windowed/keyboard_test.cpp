@@ -275,6 +275,23 @@ TEST_F(GridKeys, FirstKeyWithoutFocusGoesToTheFirstCell)
     EXPECT_EQ(window.TakeTold(), (Told{"1116 T 0 \"T\" expanded"}));
 }
 
+TEST_F(GridKeys, KeysOfACellWithoutFocusDoNothing)
+{
+    for (const bool rowMode : {false, true})
+    {
+        SCOPED_TRACE(rowMode);
+        grid.SetRowMode(rowMode);
+        grid.SetFocusCell(nullptr, -1, true);
+        window.TakeTold();
+        for (const UINT key : {VK_SPACE, VK_RETURN, VK_F2, VK_ADD, VK_SUBTRACT})
+            PressKey(key);
+        TypeText(L"7");
+        EXPECT_TRUE(window.TakeTold().empty());
+        EXPECT_FALSE(grid.HasEditor());
+        EXPECT_EQ(grid.FocusRow(), nullptr);
+    }
+}
+
 TEST_F(GridKeys, RowModeMovesByRowsAlone)
 {
     grid.SetRowMode(true);

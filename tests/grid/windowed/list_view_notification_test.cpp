@@ -115,20 +115,36 @@ protected:
     ParentToldOfTheKeyboard()
     {
         grid.SetCellKind(a, 1, kCellEdit);
+        OpenOnA();
+    }
+
+    void OpenOnA()
+    {
         grid.SetFocusCell(a, 1, false);
         EXPECT_TRUE(grid.OpenEditor());
     }
 
+    /// The parent acts the next time that it is told of the keyboard.
+    void ActOnce(std::function<void()> act)
+    {
+        window.onListTold = [this, act = std::move(act)](UINT code) {
+            if (code != NM_SETFOCUS)
+                return;
+            const std::function<void()> once = act;  // this one goes with what is replaced
+            window.onListTold = nullptr;
+            once();
+        };
+    }
+
     void MoveToB(const std::function<void()>& act)
     {
-        int told = 0;
-        window.onListTold = [&](UINT code) {
-            if (code == NM_SETFOCUS && told++ == 0)
-                act();
-        };
+        bool acted = false;
+        ActOnce([&] {
+            acted = true;
+            act();
+        });
         grid.SetFocusCell(b, 2, true);
-        window.onListTold = nullptr;
-        EXPECT_GT(told, 0);
+        EXPECT_TRUE(acted);
         EXPECT_FALSE(grid.HasEditor());
     }
 
@@ -169,6 +185,69 @@ TEST_F(ParentToldOfTheKeyboard, KeepsNoEditorOfADeletedRow)
     EXPECT_FALSE(grid.HasEditor());
     EXPECT_TRUE(EditorWindows(grid.GetSafeHwnd()).empty());
     EXPECT_EQ(window.ShownNames(), "B");
+}
+
+// B has children; A's editor closes first.
+TEST_F(ParentToldOfTheKeyboard, MayExpandTheRowThatIsExpanded)
+{
+    window.AddChild(b, L"C");
+    window.AddChild(b, L"D");
+    ActOnce([this] { grid.ExpandRow(b); });
+    grid.ExpandRow(b);
+    EXPECT_EQ(window.ShownNames(), "A B C D");
+    EXPECT_TRUE(window.IndicesAreExact());
+}
+
+TEST_F(ParentToldOfTheKeyboard, MayCollapseTheRowThatIsCollapsed)
+{
+    window.AddChild(b, L"C");
+    window.AddChild(b, L"D");
+    window.AddTop(L"E");
+    grid.ExpandRow(b);
+    OpenOnA();
+    ActOnce([this] { grid.CollapseRow(b); });
+    grid.CollapseRow(b);
+    EXPECT_EQ(window.ShownNames(), "A B E");
+    EXPECT_TRUE(window.IndicesAreExact());
+}
+
+TEST_F(ParentToldOfTheKeyboard, MayEmptyTheRowThatIsExpandedOrCollapsed)
+{
+    for (const bool expands : {true, false})
+    {
+        SCOPED_TRACE(expands);
+        const RowKey child = window.AddChild(b, L"C");
+        if (!expands)
+            grid.ExpandRow(b);
+        OpenOnA();
+        ActOnce([this, child] { grid.DeleteRow(child); });
+        if (expands)
+            grid.ExpandRow(b);
+        else
+            grid.CollapseRow(b);
+        EXPECT_EQ(window.ShownNames(), "A B");
+        EXPECT_TRUE(window.IndicesAreExact());
+    }
+}
+
+// It opens while the edit of A loses the keyboard to its own editor: the later one stays.
+TEST_F(ParentToldOfTheKeyboard, MayOpenAnotherEditWhileOneTakesTheKeyboard)
+{
+    grid.CloseEditor();
+    grid.SetCellKind(b, 1, kCellEdit);
+    int told = 0;
+    window.onListTold = [&](UINT code) {
+        if (code != NM_KILLFOCUS || told++ != 0)
+            return;
+        grid.SetFocusCell(b, 1, false);
+        EXPECT_TRUE(grid.OpenEditor());
+    };
+    EXPECT_FALSE(grid.OpenEditor());
+    window.onListTold = nullptr;
+    EXPECT_GT(told, 0);
+    EXPECT_TRUE(grid.HasEditor());
+    EXPECT_EQ(grid.FocusKey(), b);
+    EXPECT_EQ(EditorWindows(grid.GetSafeHwnd()).size(), 1U);
 }
 
 TEST_F(ParentToldOfTheKeyboard, MaySwitchToRows)

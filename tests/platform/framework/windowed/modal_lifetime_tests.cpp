@@ -150,6 +150,51 @@ TEST(ModalDialogLifetime, OwnerDestroyedWithTheDialogGivesMinusOne)
     EXPECT_TRUE(main.IsWindowEnabled());
 }
 
+namespace
+{
+LRESULT CALLBACK NoteOwnerAtTheEnd(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR owner,
+                                   DWORD_PTR noted)
+{
+    if (message == WM_DESTROY)
+        *reinterpret_cast<BOOL*>(noted) = ::IsWindowEnabled(reinterpret_cast<HWND>(owner));
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+}  // namespace
+
+// Windows activates another program's window when none of this one is enabled at that moment.
+TEST(ModalDialogLifetime, OwnersAreEnabledBeforeTheDialogGoesWithItsOwner)
+{
+    RecordingWindow main;
+    auto owner = std::make_unique<RecordingWindow>(300, 200, &main);
+    CShortDialog dialog(owner.get());
+    BOOL wasEnabled = FALSE;
+    DoWhen(IsShown(dialog), [&] {
+        ::SetWindowSubclass(dialog, &NoteOwnerAtTheEnd, reinterpret_cast<UINT_PTR>(main.m_hWnd),
+                            reinterpret_cast<DWORD_PTR>(&wasEnabled));
+        owner.reset();
+    });
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_TRUE(wasEnabled);
+    EXPECT_EQ(::GetActiveWindow(), main.m_hWnd);
+}
+
+// The second dialog waits for the first one's window as well.
+TEST(ModalDialogLifetime, OwnersOfAllDialogsBelowAreEnabledBeforeTheyGo)
+{
+    RecordingWindow main;
+    auto owner = std::make_unique<RecordingWindow>(300, 200, &main);
+    CShortDialog outer(owner.get());
+    DoWhen(IsShown(outer), [&] {
+        CShortDialog inner(&outer);
+        DoWhen(IsShown(inner), [&owner] { owner.reset(); });
+        EXPECT_EQ(inner.DoModal(), -1);
+        EXPECT_TRUE(main.IsWindowEnabled());
+    });
+    EXPECT_EQ(outer.DoModal(), -1);
+    EXPECT_TRUE(main.IsWindowEnabled());
+    EXPECT_EQ(::GetActiveWindow(), main.m_hWnd);
+}
+
 TEST(ModalDialogLifetime, ObjectMayBeDeletedWhileTheLoopRuns)
 {
     RecordingWindow owner;
