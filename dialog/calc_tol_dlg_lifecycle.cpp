@@ -20,6 +20,9 @@ constexpr DWORD kListStyles = LVS_EX_GRIDLINES | LVS_EX_HEADERDRAGDROP | LVS_EX_
 constexpr COLORREF kTransparent = RGB(255, 0, 255);
 constexpr COLORREF kFocusBack = RGB(240, 220, 40);
 constexpr COLORREF kFocusText = RGB(0, 0, 0);  // legible on it in every colour scheme
+constexpr int kImageHeight = 16;               // pixels
+constexpr int kChainImageWidth = 16;
+constexpr int kClosingImageWidth = 25;
 constexpr int kImageGrowth = 9;
 constexpr int kClosingImage = 0;
 constexpr int kNameWidth = 130;  // column widths, pixels
@@ -111,7 +114,7 @@ void CCalcTolDlg::SetUp()
 
 void CCalcTolDlg::SetUpChainList()
 {
-    LoadImages(m_chainImages, 16, 16, IDB_CHAIN_IMAGES);
+    LoadImages(m_chainImages, kChainImageWidth, kImageHeight, IDB_CHAIN_IMAGES);
     AttachList(m_chainList, IDC_CHAIN_LIST, *this, m_chainImages);
     m_chainList.SetRowMode(false);
     AddColumns(m_chainList, true);
@@ -121,7 +124,7 @@ void CCalcTolDlg::SetUpChainList()
 
 void CCalcTolDlg::SetUpClosingList()
 {
-    LoadImages(m_closingImages, 25, 16, IDB_CLOSING_IMAGES);
+    LoadImages(m_closingImages, kClosingImageWidth, kImageHeight, IDB_CLOSING_IMAGES);
     AttachList(m_closingList, IDC_CLOSING_LIST, *this, m_closingImages);
     AddColumns(m_closingList, false);
     m_closingRow = m_closingList.AddTopRow(m_closingList.CreateRow(L"      X", kClosingImage));

@@ -82,10 +82,10 @@ bool RunsThrough(PixelPoint start, PixelPoint end, const TextArea& text)
         if (from == to)
             return lowest <= from && from <= highest;
         const double length = static_cast<double>(to) - from;
-        const double a = (lowest - static_cast<double>(from)) / length;
-        const double b = (highest - static_cast<double>(from)) / length;
-        first = std::max(first, std::min(a, b));
-        last = std::min(last, std::max(a, b));
+        const auto [enters, leaves] = std::minmax(
+            {(lowest - static_cast<double>(from)) / length, (highest - static_cast<double>(from)) / length});
+        first = std::max(first, enters);
+        last = std::min(last, leaves);
         return first <= last;
     };
     return cut(start.x, end.x, text.corner.x, text.corner.x + text.extent.width - 1) &&

@@ -11,7 +11,7 @@ int CFListCtrl::InsertFColumn(int index, LPCTSTR heading, int format, int width,
     column->tree = tree ? 1 : 0;
     column->centred = (format & LVCFMT_JUSTIFYMASK) == LVCFMT_CENTER ? 1 : 0;
     m_columns.InsertAt(index, column.get());
-    column.release();
+    static_cast<void>(column.release());  // the array's now
     m_insertedAt.push_back(index);
     if (tree && m_treeColumn >= 0)
         Column(m_treeColumn < index ? m_treeColumn : m_treeColumn + 1).tree = 0;
@@ -28,6 +28,7 @@ int CFListCtrl::InsertFColumn(int index, LPCTSTR heading, int format, int width,
 
     // The list view may have kept the texts of the columns at and behind the new one where they were.
     std::vector<RowKey> shown;
+    shown.reserve(static_cast<std::size_t>(GetItemCount()));
     for (int row = 0; row < GetItemCount(); ++row)
         shown.push_back(RowAtIndex(row)->Key());
     for (const RowKey key : shown)

@@ -139,7 +139,7 @@ protected:
     afx_msg void OnSetFocus(CWnd* former);
     afx_msg void OnKillFocus(CWnd* next);
     // keyboard
-    afx_msg LRESULT OnGetDlgCode(WPARAM key, LPARAM message);
+    afx_msg LRESULT OnGetDlgCode(WPARAM key, LPARAM lParam);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     // mouse

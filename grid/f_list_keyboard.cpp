@@ -43,7 +43,7 @@ bool RowGridWants(const MSG& message)
 }  // namespace
 
 // What the dialog leaves to the grid. By rows, Tab and Enter stay the dialog's.
-LRESULT CFListCtrl::OnGetDlgCode(WPARAM, LPARAM lParam)
+LRESULT CFListCtrl::OnGetDlgCode(WPARAM /*key*/, LPARAM lParam)
 {
     const auto* const message = reinterpret_cast<const MSG*>(lParam);
     LRESULT claims = DLGC_WANTARROWS;
