@@ -70,7 +70,7 @@ struct Writer
     }
     void operator()(const HaloPrimitive& halo) const
     {
-        out << "halo " << halo.corner << ' ' << halo.reach << ' ' << Quoted(halo.text);
+        out << "halo " << halo.corner << ' ' << halo.width << ' ' << halo.reach << ' ' << Quoted(halo.text);
     }
     void operator()(const FillPrimitive& fill) const { out << "fill " << fill.color << ' ' << fill.corners; }
     void operator()(const RectPrimitive& rect) const

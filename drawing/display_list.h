@@ -60,6 +60,7 @@ struct TextPrimitive
 struct HaloPrimitive
 {
     PixelPoint corner;  // the text's top left
+    int width = 0;      // of the text, pixels: the halo keeps within it, beside it may be the text's own line
     int reach = 0;      // to either side of the letters, pixels
     std::string text;   // UTF-8
 
@@ -124,7 +125,7 @@ struct DisplayList
 ///
 ///     line X1 Y1 X2 Y2
 ///     text X Y left|center|right RRGGBB "T" [lifted]
-///     halo X Y REACH "T"
+///     halo X Y WIDTH REACH "T"
 ///     fill RRGGBB X1 Y1 X2 Y2 ...
 ///     rect RRGGBB LEFT TOP RIGHT BOTTOM
 ///     outline X1 Y1 X2 Y2 ...

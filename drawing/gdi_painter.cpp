@@ -11,6 +11,8 @@ namespace
 {
 
 constexpr COLORREF kGround = RGB(255, 255, 255);
+constexpr int kTopmost = -0x8000;  // where nothing is cut off above and below
+constexpr int kLowest = 0x7FFF;
 
 COLORREF ToColor(Rgb color)
 {
@@ -53,6 +55,8 @@ public:
     void operator()(const HaloPrimitive& halo) const
     {
         const CString characters = FromUtf8(halo.text);
+        const ScopedState state(m_dc);
+        ::IntersectClipRect(m_dc.GetSafeHdc(), halo.corner.x, kTopmost, halo.corner.x + halo.width, kLowest);
         m_dc.SetBkMode(TRANSPARENT);
         m_dc.SetTextColor(kGround);
         for (int x = halo.corner.x - halo.reach; x <= halo.corner.x + halo.reach; ++x)

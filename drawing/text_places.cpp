@@ -122,13 +122,10 @@ struct PlacedText
     TextArea area;
     bool hasHalo = false;
 
-    int Reach() const { return area.extent.height / kHaloShare; }
-
     /// What the halo may cover.
     TextArea Around() const
     {
-        return {{area.corner.x - Reach(), area.corner.y - 1},
-                {area.extent.width + 2 * Reach(), area.extent.height + 2}};
+        return {{area.corner.x, area.corner.y - 1}, {area.extent.width, area.extent.height + 2}};
     }
 };
 
@@ -175,7 +172,8 @@ DisplayList WithReadableTexts(const DisplayList& list, const MeasureText& measur
             readable.primitives.emplace_back(own.text);
     for (const PlacedText& own : placed)
         if (own.hasHalo)
-            readable.primitives.emplace_back(HaloPrimitive{own.area.corner, own.Reach(), own.text.text});
+            readable.primitives.emplace_back(HaloPrimitive{own.area.corner, own.area.extent.width,
+                                                           own.area.extent.height / kHaloShare, own.text.text});
     for (const PlacedText& own : placed)
         if (own.text.isLifted)
             readable.primitives.emplace_back(own.text);

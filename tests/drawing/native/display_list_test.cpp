@@ -39,10 +39,10 @@ TEST(DisplayListText, WritesOneLineForEachPrimitiveInDrawingOrder)
 TEST(DisplayListText, TellsOfHalosAndLiftedTexts)
 {
     DisplayList list;
-    list.primitives.emplace_back(HaloPrimitive{{1, 2}, 3, "A"});
+    list.primitives.emplace_back(HaloPrimitive{{1, 2}, 8, 3, "A"});
     list.Text(1, 2, TextAlign::Left, "A");
     std::get<TextPrimitive>(list.primitives[1]).isLifted = true;
-    EXPECT_EQ(ToText(list), "halo 1 2 3 \"A\"\n"
+    EXPECT_EQ(ToText(list), "halo 1 2 8 3 \"A\"\n"
                             "text 1 2 left 000000 \"A\" lifted\n");
 }
 

@@ -429,6 +429,24 @@ TEST_F(GdiPainterAtTheSides, ATextBeyondTheBottomMovesToIt)
     ExpectPlaces(list, {{{100, 60 - size.cy}, m_text}});
 }
 
+// A marker's label, with the line of another one through it.
+TEST_F(GdiPainterAtTheSides, ATextThatALineRunsThroughLeavesItsOwnLineBesideIt)
+{
+    for (const bool isRight : {true, false})
+    {
+        SCOPED_TRACE(isRight);
+        WhiteCanvas canvas(kWidth, 40);
+        DisplayList list;
+        const int own = 100;
+        list.Line(own, 0, own, 40);
+        list.Text(isRight ? own + 1 : own, kTop, isRight ? TextAlign::Left : TextAlign::Right, m_text);
+        list.Line(isRight ? own + 20 : own - 20, 0, isRight ? own + 20 : own - 20, 40);
+        Paint(canvas, list);
+        for (int y = 0; y < 40; ++y)
+            ASSERT_EQ(canvas.At(own, y), kBlackPixel) << y;
+    }
+}
+
 TEST_F(GdiPainterAtTheSides, AMovedTextLeavesTheLettersOfItsNeighbour)
 {
     DisplayList list;
