@@ -56,7 +56,6 @@ BOOL CVariableDlg::OnInitDialog()
 {
     CChildDialog::OnInitDialog();
     const CModuleSkin skin(kModuleCalcTol);
-    m_isCancelled = false;
     m_lawBox = std::make_unique<CComboBox>();
     m_lawBox->SubclassDlgItem(IDC_VARIABLE_LAW, this);
     m_plot.SubclassDlgItem(IDC_VARIABLE_PLOT, this);
@@ -125,8 +124,6 @@ void CVariableDlg::ShowSigma()
 void CVariableDlg::OnSelchangeLaw()
 {
     const CModuleSkin skin(kModuleCalcTol);
-    if (m_isCancelled)
-        return;
     if (TakeSelectedLaw())
         ShowSigma();
     RepaintNow();
@@ -135,7 +132,7 @@ void CVariableDlg::OnSelchangeLaw()
 void CVariableDlg::OnRedraw()
 {
     const CModuleSkin skin(kModuleCalcTol);
-    if (!m_isCancelled && AcceptMean())
+    if (AcceptMean())
         RepaintNow();
 }
 
@@ -150,8 +147,6 @@ void CVariableDlg::RepaintNow()
 void CVariableDlg::OnOK()
 {
     const CModuleSkin skin(kModuleCalcTol);
-    if (m_isCancelled)
-        return;
     GetDlgItemText(IDC_VARIABLE_NAME, m_params.name);
     if (!AcceptMean())
         return;
@@ -168,7 +163,7 @@ void CVariableDlg::OnOK()
 void CVariableDlg::OnCancel()
 {
     const CModuleSkin skin(kModuleCalcTol);
-    m_isCancelled = true;
+    BeginCancel();
     Reset();
     if (Report(kChildCancelled))
         End(IDCANCEL);

@@ -18,7 +18,6 @@
 ///
 /// The host may end, destroy or delete the dialog inside a message. Ended that way, it keeps the result it was given.
 /// A host that lets the user press OK or Cancel inside the report of an OK hears of that, too, and it gives the result.
-/// After Cancel nothing is taken any more.
 class CVariableDlg : public CChildDialog
 {
 public:
@@ -62,7 +61,6 @@ private:
     std::unique_ptr<CComboBox> m_lawBox;  // none before the dialog is initialised
     CWnd* m_parent;                       // kept as the layout of the dialog has it; nothing reads it
     CVariableParams m_params;
-    bool m_isCancelled = false;
     CPictureFrame m_picture;
     CPictureFrame m_plot;
     Lifetime m_lifetime;

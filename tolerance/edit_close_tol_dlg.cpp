@@ -119,6 +119,7 @@ void CEditCloseTolDlg::OnOK()
 void CEditCloseTolDlg::OnCancel()
 {
     const CModuleSkin skin(kModuleCalcTol);
+    BeginCancel();
     Reset();
     if (m_entry.Report(m_hostWindow, kChildCancelled))
         m_entry.End(IDCANCEL);

@@ -165,6 +165,7 @@ void CEditTolDlg::OnOK()
 void CEditTolDlg::OnCancel()
 {
     const CModuleSkin skin(kModuleCalcTol);
+    BeginCancel();
     Reset();
     if (m_entry.Report(m_hostWindow, kChildCancelled))
         m_entry.End(IDCANCEL);

@@ -224,7 +224,7 @@ TEST_F(VariableEnding, AcceptsInTheRunAfterACancelledOne)
     EXPECT_EQ(Run({[this] { Click(IDC_VARIABLE_OK); }}), IDOK);
 }
 
-TEST_F(VariableEnding, TellsTheHostOfASecondCancelInsideTheFirst)
+TEST_F(VariableEnding, IgnoresASecondCancelInsideTheFirst)
 {
     bool first = true;
     OnNotification([&](UINT) {
@@ -233,7 +233,7 @@ TEST_F(VariableEnding, TellsTheHostOfASecondCancelInsideTheFirst)
     });
     const INT_PTR result = Run({[this] { Click(IDC_VARIABLE_CANCEL); }});
     EXPECT_EQ(result, IDCANCEL);
-    EXPECT_EQ(Codes(), (std::vector<WPARAM>{kChildCancelled, kChildCancelled}));
+    EXPECT_EQ(Codes(), (std::vector<WPARAM>{kChildCancelled}));
 }
 
 // The inner OK has emptied the record and ended the run.

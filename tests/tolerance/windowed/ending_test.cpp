@@ -47,6 +47,24 @@ TYPED_TEST(Ending, ResetsBeforeTheHostHearsOfCancel)
     EXPECT_FALSE(pictured);
 }
 
+// The record is empty by then: accepted, it would blank the link of an edit that the user cancelled.
+TYPED_TEST(Ending, IgnoresAnOkInsideTheReportOfCancel)
+{
+    this->OnNotification([this](UINT) {
+        ::SendMessageW(this->dialog->m_hWnd, WM_COMMAND, MAKEWPARAM(TypeParam::kOk, BN_CLICKED),
+                       reinterpret_cast<LPARAM>(this->Window(TypeParam::kOk)));
+    });
+    const INT_PTR result = this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kCancel); }});
+    EXPECT_EQ(result, IDCANCEL);
+    EXPECT_EQ(this->Codes(), (std::vector<WPARAM>{kChildCancelled}));
+}
+
+TYPED_TEST(Ending, AcceptsInTheRunAfterACancelledOne)
+{
+    this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kCancel); }});
+    EXPECT_EQ(this->RunLoaded(FreeDimension(), {[this] { this->Click(TypeParam::kOk); }}), IDOK);
+}
+
 TYPED_TEST(Ending, CancelsByTheCloseBox)
 {
     const INT_PTR result = this->RunLoaded(
