@@ -20,7 +20,7 @@ int AfxMessageBox(LPCWSTR text, UINT type, UINT)
     const HWND owner = OwnerOfMessage();
     // The box disables its owner, and enables it again before it goes.
     DisabledOwners aboveOwner;
-    aboveOwner.Disable(owner == nullptr ? nullptr : ::GetWindow(owner, GW_OWNER));
+    aboveOwner.DisableAbove(owner);
     return ::MessageBoxW(owner, text, AfxGetAppName(), type);
 }
 

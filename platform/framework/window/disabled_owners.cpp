@@ -36,9 +36,16 @@ void DisabledOwners::Disable(HWND owner)
     }
 }
 
+void DisabledOwners::DisableAbove(HWND window)
+{
+    m_below = window;
+    Disable(window == nullptr ? nullptr : ::GetWindow(window, GW_OWNER));
+}
+
 void DisabledOwners::Restore()
 {
     m_restored = true;
+    m_below = nullptr;
     while (!m_windows.empty())
     {
         const HWND window = m_windows.back();
@@ -53,6 +60,16 @@ void DisabledOwners::RestoreBelow(HWND window)
 {
     while (DisabledOwners* const holder = HolderOf(window))
         holder->Restore();
+    while (DisabledOwners* const holder = HolderAbove(window))
+        holder->Restore();
+}
+
+DisabledOwners* DisabledOwners::HolderAbove(HWND window)
+{
+    for (DisabledOwners* holder = innermostHolder; holder != nullptr; holder = holder->m_outer)
+        if (holder->m_below == window)
+            return holder;
+    return nullptr;
 }
 
 DisabledOwners* DisabledOwners::HolderOf(HWND window)

@@ -158,3 +158,33 @@ TEST_F(DisabledOwnersTest, MayGoWithTheDialogsThatDisabledThem)
     Run([this](CDialog&) { Run([this](CDialog&) { m_middle.reset(); }); });
     EXPECT_TRUE(MainEnabled());
 }
+
+namespace
+{
+LRESULT CALLBACK NoteMainAtTheEnd(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR mainWindow,
+                                  DWORD_PTR noted)
+{
+    if (message == WM_DESTROY)
+        *reinterpret_cast<BOOL*>(noted) = ::IsWindowEnabled(reinterpret_cast<HWND>(mainWindow));
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+}  // namespace
+
+// The box disables the dialog, and holds what owns it; all of it goes at once.
+TEST_F(DisabledOwnersTest, AreEnabledBeforeADialogGoesUnderItsMessageBox)
+{
+    BOOL wasEnabled = FALSE;
+    Run([&](CDialog& dialog) {
+        m_main.EnableWindow(TRUE);
+        ExpectMessageBox box;
+        box.WhileShown([&] {
+            EXPECT_TRUE(BothDisabled());
+            ::SetWindowSubclass(dialog, &NoteMainAtTheEnd, reinterpret_cast<UINT_PTR>(m_main.m_hWnd),
+                                reinterpret_cast<DWORD_PTR>(&wasEnabled));
+            dialog.DestroyWindow();
+        });
+        AfxMessageBox(L"message", MB_OK);
+    });
+    EXPECT_TRUE(wasEnabled);
+    EXPECT_TRUE(BothEnabled());
+}
