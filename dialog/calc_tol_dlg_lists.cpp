@@ -51,7 +51,7 @@ bool CCalcTolDlg::HasLinks() const
 }
 
 // The row does not appear before the chain row is expanded: the command that opened the tolerance dialog does that. It
-// has its record from the beginning, because it belongs to the chain even when the list fails to show it.
+// has its record from the beginning: no link of the chain is without one at any moment.
 void CCalcTolDlg::AddToList(void* hostObject)
 {
     const CModuleSkin skin(kModuleCalcTol);
@@ -62,9 +62,9 @@ void CCalcTolDlg::AddToList(void* hostObject)
     Row* const row = m_chainList.CreateRow(params.name, LinkImage(params.dimKind), record.get());
     const CDimLink* const owned = record.release();
     const RowKey key = row->Key();
-    Succeeds([&] { return m_chainList.AddChildRow(m_chainRow, row) != nullptr; });
-    if (m_chainList.FindRow(key) == nullptr)  // the window has gone meanwhile, and the row with it
+    if (!Succeeds([&] { return m_chainList.AddChildRow(m_chainRow, row) != nullptr; }))
     {
+        m_chainList.DeleteRow(key);  // refused by the list; already gone when the window went meanwhile
         delete owned;
         return;
     }

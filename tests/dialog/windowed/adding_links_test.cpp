@@ -303,8 +303,7 @@ LRESULT CALLBACK RefuseRows(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     return ::CallWindowProcW(reinterpret_cast<WNDPROC>(::GetPropW(window, L"former")), window, message, wParam, lParam);
 }
 
-// The row is part of the chain, whether it is shown or not.
-TEST_F(AddingLinks, LeaveNoLinkWithoutARecordWhenTheListFails)
+TEST_F(AddingLinks, AddNoneThatTheListRefuses)
 {
     AddLink(Dimension(L"A1", L"25", L"0.2", L"-0.1"), &objects[0]);
     const HWND list = Links().Window();
@@ -318,12 +317,15 @@ TEST_F(AddingLinks, LeaveNoLinkWithoutARecordWhenTheListFails)
                 ::RemovePropW(list, L"former");
                 dialog->EndModal();
             }});
-    const std::vector<WeightLink> links = Model();
-    ASSERT_EQ(links.size(), 2U);
-    ASSERT_NE(links[1].record, nullptr);
-    EXPECT_EQ(links[1].record->hostObject, &objects[1]);
-    EXPECT_EQ(links[1].nominal, L"5");
+    EXPECT_EQ(Objects(), (std::vector<void*>{&objects[0]}));
     EXPECT_EQ(Links().Rows(), 2) << "the chain row and the first link";
+    AddLink(Dimension(L"A3", L"5", L"0.2", L"-0.1"), &objects[2]);
+    FocusOnLink(0);
+    Command(ID_LINK_DELETE);
+    EXPECT_EQ(Objects(), (std::vector<void*>{&objects[2]}));
+    EXPECT_EQ(Links().Rows(), 2);
+    CollapseChain();
+    EXPECT_EQ(Links().Rows(), 1);
 }
 
 // --- how the command ends ---
