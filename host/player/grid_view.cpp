@@ -214,8 +214,11 @@ std::vector<GridView::FoundImage> GridView::ImagesIn(const RECT& area) const
     return found;
 }
 
+// A list whose images are not both of these has no tree: its first image is then a row's own.
 std::optional<GridView::FoundImage> GridView::ExpandImage(int row) const
 {
+    if (ImageList_GetImageCount(SmallImages()) <= std::max(kCollapsedImage, kExpandedImage))
+        return std::nullopt;
     for (int column = 0; column < Columns(); ++column)
     {
         const std::vector<FoundImage> images = ImagesIn(CellArea({row, column}));
