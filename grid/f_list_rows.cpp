@@ -169,7 +169,10 @@ void CFListCtrl::ShowRow(CFListRow& row, int index)
     item.pszText = const_cast<LPTSTR>(row.ItemCount() > 0 ? static_cast<LPCTSTR>(row.Text(0)) : L"");
     item.lParam = reinterpret_cast<LPARAM>(&row);
     if (InsertItem(&item) < 0)
+    {
+        row.m_listIndex = -1;
         AfxThrowMemoryException();
+    }
     for (int column = 1; column < row.ItemCount(); ++column)
         if (!row.Text(column).IsEmpty())
             SetItemText(index, column, row.Text(column));
@@ -180,8 +183,19 @@ void CFListCtrl::ShowChildren(CFListRow& row)
     const PaintingPause pause(*this);
     int index = row.ListIndex();
     SetItemCount(GetItemCount() + row.ChildCount());  // makes room for all at once
-    for (CFListRow* child = row.FirstChild(); child != nullptr; child = child->NextSibling())
-        ShowRow(*child, ++index);
+    CFListRow* child = row.FirstChild();
+    try
+    {
+        for (; child != nullptr; child = child->NextSibling())
+            ShowRow(*child, ++index);
+    }
+    catch (CMemoryException*)  // the row stays collapsed
+    {
+        int last = index - 1;
+        while ((child = child->PreviousSibling()) != nullptr)
+            HideBranch(*child, last);
+        throw;
+    }
 }
 
 // The last row, then the first, in one step: each would make the list scroll and paint.

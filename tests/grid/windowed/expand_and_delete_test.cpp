@@ -42,6 +42,43 @@ TEST_F(GridTree, ExpandingRenumbersAllRowsBelow)
     EXPECT_TRUE(window.IndicesAreExact());
 }
 
+namespace
+{
+// As a list view does that has no memory left.
+LRESULT CALLBACK RefuseTheSecondRow(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR count)
+{
+    if (message == LVM_INSERTITEMW && ++*reinterpret_cast<int*>(count) == 2)
+        return -1;
+    return ::DefSubclassProc(list, message, wParam, lParam);
+}
+}  // namespace
+
+TEST_F(GridTree, RowStaysCollapsedWhenTheListRefusesOneOfItsChildren)
+{
+    int count = 0;
+    ::SetWindowSubclass(grid.GetSafeHwnd(), &RefuseTheSecondRow, 1, reinterpret_cast<DWORD_PTR>(&count));
+    bool refused = false;
+    try
+    {
+        grid.ExpandRow(t);
+    }
+    catch (CMemoryException* exception)
+    {
+        exception->Delete();
+        refused = true;
+    }
+    ::RemoveWindowSubclass(grid.GetSafeHwnd(), &RefuseTheSecondRow, 1);
+    EXPECT_TRUE(refused);
+    EXPECT_EQ(window.ShownNames(), "T U");
+    EXPECT_FALSE(grid.FindRow(t)->IsExpanded());
+    EXPECT_TRUE(window.IndicesAreExact());
+    grid.ExpandRow(t);
+    EXPECT_EQ(window.ShownNames(), "T A B U");
+    grid.DeleteRow(a);
+    EXPECT_EQ(window.ShownNames(), "T B U");
+    EXPECT_TRUE(window.IndicesAreExact());
+}
+
 TEST_F(GridTree, ExpandedRowIsNotExpandedAgain)
 {
     grid.ExpandRow(t);
